@@ -1,0 +1,45 @@
+# SPDX-FileCopyrightText: 2026 The qmClient authors
+# SPDX-License-Identifier: GPL-3.0-or-later
+#
+#   qm_library(NAME [QT] SOURCES … [LINKS …])            one static library per folder
+#   qm_program(NAME [QT] SOURCES … [LINKS …])            one program in build/<preset>/bin
+#   qm_test(NAME [QT] SOURCES … [LINKS …] [LABELS …])    one GoogleTest program, a CTest entry per test
+#
+# QT switches on moc, rcc and Qt's strict defines. A test with QT brings its own main() (it needs an
+# application object); any other gets GoogleTest's. Tests without LABELS are labelled "unit".
+
+include(GoogleTest)
+
+function(qm_settings_for_ name is_qt)
+  target_link_libraries(${name} PUBLIC ${ARGN} qm_settings)
+  if(is_qt)
+    target_link_libraries(${name} PUBLIC qm_qt_settings)
+    set_target_properties(${name} PROPERTIES AUTOMOC ON AUTORCC ON)
+  endif()
+endfunction()
+
+function(qm_library name)
+  cmake_parse_arguments(PARSE_ARGV 1 arg "QT" "" "SOURCES;LINKS")
+  add_library(${name} STATIC ${arg_SOURCES})
+  qm_settings_for_(${name} ${arg_QT} ${arg_LINKS})
+endfunction()
+
+function(qm_program name)
+  cmake_parse_arguments(PARSE_ARGV 1 arg "QT" "" "SOURCES;LINKS")
+  add_executable(${name} ${arg_SOURCES})
+  qm_settings_for_(${name} ${arg_QT} ${arg_LINKS})
+endfunction()
+
+function(qm_test name)
+  cmake_parse_arguments(PARSE_ARGV 1 arg "QT" "" "SOURCES;LINKS;LABELS")
+  add_executable(${name} ${arg_SOURCES})
+  qm_settings_for_(${name} ${arg_QT} ${arg_LINKS} GTest::gmock)
+  if(NOT arg_QT)
+    target_link_libraries(${name} PUBLIC GTest::gtest_main)
+  endif()
+  if(NOT arg_LABELS)
+    set(arg_LABELS unit)
+  endif()
+  gtest_discover_tests(${name} TEST_PREFIX "${name}." DISCOVERY_TIMEOUT 60
+    PROPERTIES LABELS "${arg_LABELS}" TIMEOUT 120)
+endfunction()

@@ -1,0 +1,94 @@
+// SPDX-FileCopyrightText: 2026 The qmClient authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+// The error trap of one procedure call. Each statement that can fail is a step; a failing step is reported
+// under the procedure's names and the answer decides: Retry runs the step again, Ignore goes on with the next
+// one, Abort skips every further step up to the clean-up exit. Nothing that a step throws leaves it: any other
+// exception becomes a number and a text.
+//
+//     bool CallList::LoadList() {
+//         Procedure proc{m_errors, "frmMain", "LoadList"};
+//         proc.step([&] { ... });
+//         while (proc.value(false, [&] { return !records.eof(); }))
+//             proc.step([&] { ... });
+//         return proc.finish([&] { connection.reset(); });
+//     }
+//
+// A loop must end when the procedure does not run any more: its condition is a value() with the fallback that
+// ends it, or it tests running(). Lives on the stack of the procedure, on the user-interface thread.
+
+#include "errors/ErrorHandler.h"
+
+#include <cstdint>
+#include <exception>
+#include <source_location>
+#include <string_view>
+#include <utility>
+
+namespace errors {
+
+class Procedure {
+public:
+    Procedure(ErrorHandler& handler, std::string_view module, std::string_view procedure)
+        : m_handler(handler), m_module(module), m_procedure(procedure) {}
+    Procedure(const Procedure&) = delete;
+    Procedure& operator=(const Procedure&) = delete;
+
+    // True until Abort was answered or leave() was called.
+    bool running() const noexcept { return m_state == State::Running; }
+    bool aborted() const noexcept { return m_state == State::Aborted; }
+    // Skips the steps that follow, without a failure: the procedure's own early exit.
+    void leave() noexcept {
+        if (running())
+            m_state = State::Left;
+    }
+
+    // Runs one statement under the trap. Answers whether it was carried out in the end.
+    template <typename Statement>
+    bool step(Statement&& statement, std::source_location where = std::source_location::current()) {
+        while (running()) {
+            try {
+                statement();
+                return true;
+            } catch (...) {
+                if (!answered(std::current_exception(), static_cast<std::int32_t>(where.line())))
+                    return false;
+            }
+        }
+        return false;
+    }
+
+    // A statement that yields a value; `fallback` is the value when it was ignored, aborted or skipped.
+    template <typename Result, typename Expression>
+    Result value(Result fallback, Expression&& expression,
+                 std::source_location where = std::source_location::current()) {
+        Result result = std::move(fallback);
+        step([&] { result = expression(); }, where);
+        return result;
+    }
+
+    // The clean-up exit: runs whatever happened before, its own failures ignored. Answers true unless the
+    // procedure was aborted.
+    template <typename CleanUp>
+    bool finish(CleanUp&& cleanUp) {
+        try {
+            cleanUp();
+        } catch (...) { // NOLINT(bugprone-empty-catch): the clean-up exit must always be reached to its end
+        }
+        return !aborted();
+    }
+    bool finish() const noexcept { return !aborted(); }
+
+private:
+    enum class State { Running, Left, Aborted };
+
+    // Reports the failure; true when the statement is to run again.
+    bool answered(std::exception_ptr failure, std::int32_t line);
+
+    ErrorHandler& m_handler;
+    std::string_view m_module;
+    std::string_view m_procedure;
+    State m_state = State::Running;
+};
+
+} // namespace errors

@@ -1,0 +1,41 @@
+// SPDX-FileCopyrightText: 2026 The qmClient authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "platform/basic/RuntimeError.h"
+
+#include <cerrno>
+#include <system_error>
+
+namespace basic {
+namespace {
+
+std::int32_t numberFor(int errnoValue) {
+    switch (errnoValue) {
+    case ENOENT:
+        return kFileNotFound;
+    case ENOTDIR:
+        return kPathNotFound;
+    case EACCES:
+    case EPERM:
+    case EROFS:
+        return kPermissionDenied;
+    case ENOSPC:
+    case EDQUOT:
+        return kDiskFull;
+    case ENOMEM:
+        return kOutOfMemory;
+    case EIO:
+        return kDeviceIoError;
+    default:
+        return kPathFileAccess;
+    }
+}
+
+} // namespace
+
+RuntimeError errorFromErrno(int errnoValue, std::string_view what, std::string_view path) {
+    std::string text(what);
+    text.append(": ").append(path).append(": ").append(std::generic_category().message(errnoValue));
+    return {numberFor(errnoValue), std::move(text)};
+}
+
+} // namespace basic

@@ -1,0 +1,29 @@
+// SPDX-FileCopyrightText: 2026 The qmClient authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "platform/basic/RuntimeError.h"
+
+#include <gtest/gtest.h>
+
+#include <cerrno>
+
+namespace basic {
+namespace {
+
+TEST(RuntimeError, CarriesNumberAndStockText) {
+    const RuntimeError error(kOverflow);
+    EXPECT_EQ(error.number(), 6);
+    EXPECT_EQ(error.description(), "Overflow");
+}
+
+TEST(RuntimeError, UnknownNumberStillHasAText) { EXPECT_FALSE(errorText(31337).empty()); }
+
+TEST(RuntimeError, ErrnoBecomesThePlatformsNumberWithContext) {
+    EXPECT_EQ(errorFromErrno(ENOENT, "open", "/x").number(), kFileNotFound);
+    EXPECT_EQ(errorFromErrno(EACCES, "open", "/x").number(), kPermissionDenied);
+    EXPECT_EQ(errorFromErrno(ENOSPC, "write", "/x").number(), kDiskFull);
+    EXPECT_EQ(errorFromErrno(EINVAL, "write", "/x").number(), kPathFileAccess);
+    EXPECT_EQ(errorFromErrno(ENOENT, "open", "/x").description(), "open: /x: No such file or directory");
+}
+
+} // namespace
+} // namespace basic
