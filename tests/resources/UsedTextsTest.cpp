@@ -1,0 +1,109 @@
+// SPDX-FileCopyrightText: 2026 The qmClient authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+//
+// Reads the program's own sources: every text number they pass must be in the table, and the English text
+// beside it, which is there for the reader of the code, must be the table's.
+#include "resources/StringSource.h"
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include <filesystem>
+#include <fstream>
+#include <map>
+#include <regex>
+#include <set>
+#include <sstream>
+
+namespace resources {
+namespace {
+
+namespace fs = std::filesystem;
+
+using Table = std::map<std::int32_t, std::string>;
+
+std::string contentOf(const fs::path& file) {
+    std::ostringstream text;
+    text << std::ifstream(file, std::ios::binary).rdbuf();
+    return text.str();
+}
+
+Table englishTexts() {
+    Table texts;
+    for (const SourceString& entry :
+         parseStrings(contentOf(fs::path(QM_SOURCE_DIR) / "resources/strings.tsv")))
+        texts[entry.id] = entry.english;
+    return texts;
+}
+
+// The adjacent literals of a call as one text, still with its escapes, as C++ joins them.
+std::string joined(std::string literals) {
+    return std::regex_replace(literals, std::regex(R"rx(^\s*"|"\s*"|"\s*$)rx"), "");
+}
+
+std::string escaped(const std::string& text) {
+    return std::regex_replace(text, std::regex("\n"), "\\n");
+}
+
+struct Findings {
+    std::set<std::int32_t> used;
+    std::vector<std::string> faults;
+};
+
+void scan(const std::string& source, const std::string& name, const Table& texts, Findings& findings) {
+    static const std::regex call(
+        R"rx((?:LoadLocalString|localText)\(\s*(\d+)\s*(?:,((?:\s*"(?:[^"\\]|\\.)*")+))?)rx");
+    for (std::sregex_iterator found(source.begin(), source.end(), call), end; found != end; ++found) {
+        const std::int32_t id = std::stoi((*found)[1]);
+        findings.used.insert(id);
+        const auto text = texts.find(id);
+        if (text == texts.end())
+            findings.faults.push_back(name + ": no text " + std::to_string(id));
+        else if ((*found)[2].matched && joined((*found)[2]) != escaped(text->second))
+            findings.faults.push_back(name + ": another text " + std::to_string(id) + ": " +
+                                      joined((*found)[2]));
+    }
+}
+
+bool isSource(const fs::path& file) {
+    return file.extension() == ".cpp" || file.extension() == ".h" || file.extension() == ".in";
+}
+
+Findings scanProgram(const Table& texts) {
+    Findings findings;
+    for (const char* folder :
+         {"platform", "resources", "errors", "data", "tray", "app", "audio", "dialogs"}) {
+        const fs::path root = fs::path(QM_SOURCE_DIR) / folder;
+        if (!fs::exists(root))
+            continue;
+        for (const fs::directory_entry& entry : fs::recursive_directory_iterator(root))
+            if (isSource(entry.path()))
+                scan(contentOf(entry.path()), entry.path().filename().string(), texts, findings);
+    }
+    return findings;
+}
+
+TEST(UsedTexts, EveryNumberInTheProgramsSourcesIsInTheTable) {
+    const Findings findings = scanProgram(englishTexts());
+    EXPECT_THAT(findings.faults, ::testing::IsEmpty());
+}
+
+TEST(UsedTexts, AScanSeesMissingNumbersAndOtherTexts) {
+    const Table texts{{7, "Close"}, {8, "two\nlines"}};
+    Findings findings;
+    scan("a(LoadLocalString(7)); b(localText( 7, \"Clo\"\n  \"se\")); LoadLocalString(8, \"two\\nlines\");",
+         "ok.cpp", texts, findings);
+    EXPECT_THAT(findings.faults, ::testing::IsEmpty());
+    EXPECT_THAT(findings.used, ::testing::ElementsAre(7, 8));
+    scan("LoadLocalString(9, \"x\"); resources::LoadLocalString(7, \"Open\")", "bad.cpp", texts, findings);
+    EXPECT_THAT(findings.faults,
+                ::testing::ElementsAre("bad.cpp: no text 9", "bad.cpp: another text 7: Open"));
+}
+
+TEST(UsedTexts, NoTextOfTheTableHoldsACarriageReturn) {
+    for (const auto& [id, text] : englishTexts())
+        EXPECT_EQ(text.find('\r'), std::string::npos) << id;
+}
+
+} // namespace
+} // namespace resources
