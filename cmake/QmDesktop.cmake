@@ -1,0 +1,32 @@
+# SPDX-FileCopyrightText: 2026 The qmClient authors
+# SPDX-License-Identifier: GPL-3.0-or-later
+#
+#   qm_desktop_test(NAME SCRIPT [SECONDS n] [LABELS …])       a Python script that drives programs in build/<preset>/bin
+#   qm_desktop_program_test(TARGET [ARGS …] [SECONDS n])      a test program run by with_desktop.py, ARGS are its options
+#
+# Both are labelled "gui"; desktops are private, so such tests run side by side. A script finds the programs in the
+# environment variable QM_BIN.
+
+set(QM_DESKTOP_FOLDER ${CMAKE_SOURCE_DIR}/tests/desktop)
+# The system's interpreter: python3-gi belongs to it.
+set(QM_PYTHON /usr/bin/python3 -B)
+
+function(qm_desktop_test name script)
+  cmake_parse_arguments(PARSE_ARGV 2 arg "" "SECONDS" "LABELS")
+  if(NOT arg_SECONDS)
+    set(arg_SECONDS 120)
+  endif()
+  add_test(NAME desktop.${name} COMMAND ${QM_PYTHON} ${CMAKE_CURRENT_SOURCE_DIR}/${script})
+  set_tests_properties(desktop.${name} PROPERTIES
+    LABELS "gui;${arg_LABELS}" TIMEOUT ${arg_SECONDS} ENVIRONMENT "QM_BIN=${CMAKE_BINARY_DIR}/bin")
+endfunction()
+
+function(qm_desktop_program_test target)
+  cmake_parse_arguments(PARSE_ARGV 1 arg "" "SECONDS" "ARGS")
+  if(NOT arg_SECONDS)
+    set(arg_SECONDS 120)
+  endif()
+  add_test(NAME desktop.${target}
+    COMMAND ${QM_PYTHON} ${QM_DESKTOP_FOLDER}/with_desktop.py ${arg_ARGS} -- $<TARGET_FILE:${target}>)
+  set_tests_properties(desktop.${target} PROPERTIES LABELS gui TIMEOUT ${arg_SECONDS})
+endfunction()

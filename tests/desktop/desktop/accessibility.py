@@ -1,0 +1,79 @@
+# SPDX-FileCopyrightText: 2026 The qmClient authors
+# SPDX-License-Identifier: GPL-3.0-or-later
+"""Reads the windows of a program through the accessibility bus, as a screen reader does. A process of its own."""
+from gi.repository import Gio, GLib
+
+from answering import run
+
+ACCESSIBLE, COMPONENT, ACTION = (f'org.a11y.atspi.{name}' for name in ('Accessible', 'Component', 'Action'))
+REGISTRY, ROOT = 'org.a11y.atspi.Registry', '/org/a11y/atspi/accessible/root'
+STATE_SHOWING, STATE_SELECTED, STATE_ENABLED = 25, 23, 8
+SCREEN_COORDINATES = 0
+
+
+class Reader:
+    def __init__(self):
+        session = Gio.bus_get_sync(Gio.BusType.SESSION)
+        address = session.call_sync('org.a11y.Bus', '/org/a11y/bus', 'org.a11y.Bus', 'GetAddress', None, None,
+                                    Gio.DBusCallFlags.NONE, 10000, None).unpack()[0]
+        flags = (Gio.DBusConnectionFlags.AUTHENTICATION_CLIENT | Gio.DBusConnectionFlags.MESSAGE_BUS_CONNECTION)
+        self._bus = Gio.DBusConnection.new_for_address_sync(address, flags, None, None)
+
+    def _call(self, where, interface, method, arguments=None):
+        return self._bus.call_sync(where[0], where[1], interface, method, arguments, None,
+                                   Gio.DBusCallFlags.NO_AUTO_START, 5000, None).unpack()
+
+    def _property(self, where, name):
+        arguments = GLib.Variant('(ss)', (ACCESSIBLE, name))
+        return self._call(where, 'org.freedesktop.DBus.Properties', 'Get', arguments)[0]
+
+    def _children(self, where):
+        return self._call(where, ACCESSIBLE, 'GetChildren')[0]
+
+    def _node(self, where):
+        low, high = self._call(where, ACCESSIBLE, 'GetState')[0]
+        bits = low | high << 32
+        return {'role': self._call(where, ACCESSIBLE, 'GetRoleName')[0], 'name': self._property(where, 'Name'),
+                'showing': bool(bits >> STATE_SHOWING & 1), 'selected': bool(bits >> STATE_SELECTED & 1),
+                'enabled': bool(bits >> STATE_ENABLED & 1), 'where': list(where)}
+
+    def _walk(self, where, limit, found):
+        """Depth first; stops after `limit` objects, so a list of thousands of rows does not take minutes."""
+        if len(found) >= limit:
+            return
+        try:
+            found.append(self._node(where))
+            for child in self._children(where):
+                self._walk(child, limit, found)
+        except GLib.Error:
+            # The object went away while we looked.
+            return
+
+    # Questions
+
+    def do_programs(self):
+        """Pids of the programs that can be read."""
+        pids = []
+        for name, _ in self._children((REGISTRY, ROOT)):
+            arguments = GLib.Variant('(s)', (name,))
+            pids.append(self._call(('org.freedesktop.DBus', '/org/freedesktop/DBus'), 'org.freedesktop.DBus',
+                                   'GetConnectionUnixProcessID', arguments)[0])
+        return pids
+
+    def do_tree(self, pid, limit=400):
+        """All objects of a program, outermost first."""
+        found = []
+        for where, number in zip(self._children((REGISTRY, ROOT)), self.do_programs()):
+            if number == pid:
+                self._walk(where, limit, found)
+        return found
+
+    def do_rect(self, where):
+        """(x, y, width, height) on the screen."""
+        return self._call(where, COMPONENT, 'GetExtents', GLib.Variant('(u)', (SCREEN_COORDINATES,)))[0]
+
+    def do_press(self, where):
+        return self._call(where, ACTION, 'DoAction', GLib.Variant('(i)', (0,)))[0]
+
+
+run(Reader())
