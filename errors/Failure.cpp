@@ -16,7 +16,8 @@ Failure describe(const std::exception_ptr& thrown) {
     } catch (const std::bad_alloc&) {
         return {basic::kOutOfMemory, std::string(basic::errorText(basic::kOutOfMemory))};
     } catch (const std::exception& error) {
-        return {basic::kInternalError, std::string(basic::errorText(basic::kInternalError)) + ": " + error.what()};
+        return {basic::kInternalError,
+                std::string(basic::errorText(basic::kInternalError)) + ": " + error.what()};
     } catch (...) {
         return {basic::kInternalError, std::string(basic::errorText(basic::kInternalError))};
     }

@@ -6,9 +6,18 @@
 
 namespace errors {
 
-bool Procedure::answered(std::exception_ptr failure, std::int32_t line) {
-    const Failure what = describe(failure);
-    switch (m_handler.ReportError(m_module, m_procedure, what.number, what.description, line)) {
+ErrorAction Procedure::report(const std::exception_ptr& failure, std::int32_t line) const noexcept {
+    try {
+        const Failure what = describe(failure);
+        return m_handler.ReportError(m_module, m_procedure, what.number, what.description, line);
+    } catch (...) {
+        // Not even the report could be made (no memory for its text): nobody can be asked.
+        return ErrorAction::Abort;
+    }
+}
+
+bool Procedure::answered(const std::exception_ptr& failure, std::int32_t line) noexcept {
+    switch (report(failure, line)) {
     case ErrorAction::Retry:
         return true;
     case ErrorAction::Ignore:

@@ -3,8 +3,8 @@
 #pragma once
 // The error trap of one procedure call. Each statement that can fail is a step; a failing step is reported
 // under the procedure's names and the answer decides: Retry runs the step again, Ignore goes on with the next
-// one, Abort skips every further step up to the clean-up exit. Nothing that a step throws leaves it: any other
-// exception becomes a number and a text.
+// one, Abort skips every further step up to the clean-up exit. Nothing that a step throws leaves it: any
+// other exception becomes a number and a text.
 //
 //     bool CallList::LoadList() {
 //         Procedure proc{m_errors, "frmMain", "LoadList"};
@@ -82,8 +82,9 @@ public:
 private:
     enum class State { Running, Left, Aborted };
 
+    ErrorAction report(const std::exception_ptr& failure, std::int32_t line) const noexcept;
     // Reports the failure; true when the statement is to run again.
-    bool answered(std::exception_ptr failure, std::int32_t line);
+    bool answered(const std::exception_ptr& failure, std::int32_t line) noexcept;
 
     ErrorHandler& m_handler;
     std::string_view m_module;
