@@ -63,6 +63,17 @@ bool isValidUtf8(std::string_view text) noexcept {
     return true;
 }
 
+bool isValidUtf16(std::u16string_view units) noexcept {
+    for (std::size_t i = 0; i < units.size(); ++i) {
+        if (!isSurrogate(units[i]))
+            continue;
+        if (!isHighSurrogate(units[i]) || i + 1 == units.size() || !isLowSurrogate(units[i + 1]))
+            return false;
+        ++i;
+    }
+    return true;
+}
+
 void appendUtf8(std::string& text, char32_t codePoint) {
     if (isSurrogate(codePoint) || codePoint > kHighest)
         codePoint = kReplacementCharacter;

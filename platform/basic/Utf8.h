@@ -22,6 +22,8 @@ struct Utf8Character {
 // U+10FFFF are not valid.
 Utf8Character utf8At(std::string_view text, std::size_t at) noexcept;
 bool isValidUtf8(std::string_view text) noexcept;
+// Whether every surrogate has its partner.
+bool isValidUtf16(std::u16string_view units) noexcept;
 
 // A surrogate or a number beyond U+10FFFF is appended as U+FFFD.
 void appendUtf8(std::string& text, char32_t codePoint);

@@ -30,6 +30,13 @@ TEST(Utf8, GoesToUtf16AndBack) {
     EXPECT_EQ(utf16ToUtf8(units), text);
 }
 
+TEST(Utf8, KnowsWhetherSurrogatesArePaired) {
+    EXPECT_TRUE(isValidUtf16(u"a\U0001F600b"));
+    EXPECT_FALSE(isValidUtf16(std::u16string{char16_t{0xD83D}}));
+    EXPECT_FALSE(isValidUtf16(std::u16string{char16_t{0xD83D}, u'a'}));
+    EXPECT_FALSE(isValidUtf16(std::u16string{char16_t{0xDE00}, char16_t{0xD83D}}));
+}
+
 TEST(Utf8, LoneSurrogatesAndBadBytesBecomeTheReplacementCharacter) {
     const std::u16string units{u'a', char16_t{0xD800}, u'b', char16_t{0xDC00}, char16_t{0xD801}};
     EXPECT_EQ(utf16ToUtf8(units), "a\uFFFDb\uFFFD\uFFFD");
