@@ -15,8 +15,8 @@ using PageNumber = std::uint32_t;
 inline constexpr std::int32_t kNoRow = -1;
 
 struct Place {
-    std::string_view file;
-    std::string_view table;
+    std::string_view file{};
+    std::string_view table{};
     PageNumber page = 0;
     std::int32_t row = kNoRow;
 

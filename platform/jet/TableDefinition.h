@@ -99,7 +99,7 @@ struct LongValueMaps {
 
 struct TableDefinition {
     std::vector<PageNumber> pages; // the definition's own, in order of the chain
-    std::vector<std::byte> bytes;  // the logical buffer up to its stated length
+    std::vector<std::byte> bytes;  // the logical buffer, all of its pages whole
     std::uint8_t tableType = 0;
     std::uint32_t rowCount = 0;
     std::uint32_t lastAutonumber = 0;

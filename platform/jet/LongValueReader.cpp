@@ -1,0 +1,73 @@
+// SPDX-FileCopyrightText: 2026 The qmClient authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "platform/jet/LongValueReader.h"
+
+#include "platform/jet/DataPage.h"
+
+#include <algorithm>
+#include <bit>
+
+namespace jet {
+
+namespace layout = format::longValue;
+
+std::span<const std::byte> LongValueReader::read(std::span<const std::byte> field, const Place& place) {
+    // Fields shorter than the header occur in sound databases and stand for no text.
+    if (field.size() < layout::kHeaderSize)
+        return {};
+    const ByteView view(field, place);
+    const std::uint32_t stored = view.u32(layout::kLength);
+    const std::size_t length = stored & layout::kLengthMask;
+    const RowPointer where = RowPointer::fromStored(view.u32(layout::kRow));
+    switch (stored & layout::kKindMask) {
+    case layout::kInline:
+        return field.subspan(layout::kHeaderSize, std::min(length, field.size() - layout::kHeaderSize));
+    case layout::kSingleRow: {
+        const std::span<const std::byte> bytes = row(where, place).bytes();
+        return bytes.first(std::min(length, bytes.size()));
+    }
+    case layout::kChain:
+        return readChain(where, length, place);
+    default:
+        view.fail("the long value is of an unknown kind");
+    }
+}
+
+ByteView LongValueReader::row(RowPointer where, const Place& place) {
+    if (m_bufferedPage != where.page) {
+        m_bufferedPage.reset();
+        m_page.emplace(m_source.page(where.page, m_buffer));
+        m_bufferedPage = where.page;
+    }
+    const DataPage page(*m_page, {place.file, place.table, where.page});
+    if (page.owner() != format::dataPage::kLongValueOwner)
+        place.fail("the long value refers to page " + std::to_string(where.page) +
+                   ", which holds no long values");
+    const ByteView bytes = page.row(where.row);
+    if (page.kind(where.row) == SlotKind::Deleted)
+        bytes.fail("the part of a long value was deleted");
+    return bytes;
+}
+
+// A second pointer stays behind at each power of two; a chain that meets itself comes back to it.
+std::span<const std::byte> LongValueReader::readChain(RowPointer first, std::size_t length,
+                                                      const Place& place) {
+    m_value.clear();
+    RowPointer waiting = first;
+    std::size_t steps = 0;
+    for (RowPointer next = first; next.page != 0 && m_value.size() < length;) {
+        const ByteView part = row(next, place);
+        const RowPointer after = RowPointer::fromStored(part.u32(0));
+        const std::span<const std::byte> data = part.bytes().subspan(format::dataPage::kRowPointerSize);
+        const std::span<const std::byte> wanted = data.first(std::min(length - m_value.size(), data.size()));
+        m_value.insert(m_value.end(), wanted.begin(), wanted.end());
+        if (after == waiting && after.page != 0)
+            place.fail("the parts of a long value form a loop");
+        if (std::has_single_bit(++steps))
+            waiting = next;
+        next = after;
+    }
+    return m_value;
+}
+
+} // namespace jet

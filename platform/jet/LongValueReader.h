@@ -1,0 +1,37 @@
+// SPDX-FileCopyrightText: 2026 The qmClient authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+// Fetches memos and OLE objects, which lie in the row itself, in one row of a long-value page or in a chain
+// of such rows. What comes back is never longer than the length stored in the row, nor than what the pages
+// hold; a chain that meets itself is an error. The source must outlive the reader, which keeps one page and
+// the last value. Layout: docs/jet4-format.md, "Long values".
+
+#include "platform/jet/ByteView.h"
+#include "platform/jet/PageSource.h"
+#include "platform/jet/RowPointer.h"
+
+#include <optional>
+#include <vector>
+
+namespace jet {
+
+class LongValueReader {
+public:
+    explicit LongValueReader(PageSource& source) : m_source(source) {}
+
+    // `field` is the column's bytes in the row. The answer is valid until the next call and as long as
+    // the row is.
+    std::span<const std::byte> read(std::span<const std::byte> field, const Place& place);
+
+private:
+    ByteView row(RowPointer where, const Place& place);
+    std::span<const std::byte> readChain(RowPointer first, std::size_t length, const Place& place);
+
+    PageSource& m_source;
+    PageBuffer m_buffer;
+    std::optional<PageNumber> m_bufferedPage;
+    std::optional<PageBytes> m_page;
+    std::vector<std::byte> m_value;
+};
+
+} // namespace jet
