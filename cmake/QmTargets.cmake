@@ -14,7 +14,9 @@ function(qm_settings_for_ name is_qt)
   target_link_libraries(${name} PUBLIC ${ARGN} qm_settings)
   if(is_qt)
     target_link_libraries(${name} PUBLIC qm_qt_settings)
-    set_target_properties(${name} PROPERTIES AUTOMOC ON AUTORCC ON)
+    # moc 6.4 stumbles over libstdc++'s <concepts>, which <compare> brings in: it is told to pass over it.
+    set_target_properties(${name} PROPERTIES
+      AUTOMOC ON AUTORCC ON AUTOMOC_MOC_OPTIONS "-D_GLIBCXX_CONCEPTS")
   endif()
 endfunction()
 

@@ -1,0 +1,103 @@
+// SPDX-FileCopyrightText: 2026 The qmClient authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "platform/forms/Band.h"
+
+#include "platform/basic/RuntimeError.h"
+#include "platform/forms/Text.h"
+
+#include <QAction>
+#include <QHBoxLayout>
+#include <QMainWindow>
+#include <QMenu>
+#include <QMenuBar>
+#include <QToolBar>
+
+#include <algorithm>
+
+namespace forms {
+
+Band::Band(std::string_view name, std::string_view caption, BandKind kind, QMainWindow& window)
+    : m_name(name), m_caption(caption), m_kind(kind), m_window(window) {
+    draw();
+    SetCaption(caption);
+}
+
+// The program's own widgets must not go with the toolbar that shows them.
+Band::~Band() {
+    for (const auto& tool : m_tools)
+        tool->SetCustom(nullptr);
+}
+
+void Band::draw() {
+    if (m_kind == BandKind::Toolbar) {
+        m_toolBar = new QToolBar(&m_window);
+        m_toolBar->setObjectName(toQString(m_name));
+        m_toolBar->setMovable(false);
+        m_toolBar->setContextMenuPolicy(Qt::PreventContextMenu);
+        m_toolBar->setFocusPolicy(Qt::NoFocus);
+        m_window.addToolBar(Qt::BottomToolBarArea, m_toolBar);
+    } else if (m_kind != BandKind::MenuBar) {
+        m_menu = new QMenu(&m_window);
+        m_menu->setObjectName(toQString(m_name));
+    }
+}
+
+void Band::SetCaption(std::string_view caption) {
+    m_caption = caption;
+    if (m_toolBar != nullptr) {
+        m_toolBar->setWindowTitle(toQString(caption));
+        m_toolBar->setAccessibleName(toQString(caption));
+    }
+    if (m_menu != nullptr)
+        m_menu->setAccessibleName(toQString(caption));
+}
+
+Tool& Band::AddTool(std::string_view name, std::string_view caption) {
+    m_tools.push_back(std::make_unique<Tool>(name, caption, m_toolBar != nullptr, nullptr));
+    Tool& tool = *m_tools.back();
+    connect(&tool, &Tool::clicked, this, [this, &tool] { Q_EMIT toolClicked(tool); });
+    connect(&tool, &Tool::subBandChanged, this, [this, &tool] { Q_EMIT toolSubBandChanged(tool); });
+    connect(&tool, &Tool::customChanged, this, [this, &tool](QWidget* former) { host(tool, former); });
+    show(tool);
+    return tool;
+}
+
+void Band::show(Tool& tool) {
+    if (m_kind == BandKind::MenuBar) {
+        m_window.menuBar()->addAction(tool.action());
+    } else if (m_menu != nullptr) {
+        m_menu->addAction(tool.action());
+    } else {
+        m_toolBar->addAction(tool.action());
+        // Buttons of a toolbar are out of reach of the keyboard by default, and some commands stand nowhere
+        // else.
+        if (QWidget* button = m_toolBar->widgetForAction(tool.action()))
+            button->setFocusPolicy(Qt::TabFocus);
+    }
+}
+
+Tool& Band::Tools(int index) const {
+    if (index < 0 || index >= ToolCount())
+        throw basic::RuntimeError(basic::kElementNotFound);
+    return *m_tools[static_cast<std::size_t>(index)];
+}
+
+Tool& Band::Tools(std::string_view name) const {
+    const auto found = std::find_if(m_tools.begin(), m_tools.end(),
+                                    [name](const auto& tool) { return tool->Name() == name; });
+    if (found == m_tools.end())
+        throw basic::RuntimeError(basic::kElementNotFound);
+    return **found;
+}
+
+void Band::host(Tool& tool, QWidget* former) {
+    if (former == tool.Custom() || m_toolBar == nullptr)
+        return;
+    if (former != nullptr) {
+        former->hide();
+        former->setParent(&m_window);
+    }
+    tool.action()->setVisible(true);
+}
+
+} // namespace forms

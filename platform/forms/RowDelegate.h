@@ -1,0 +1,20 @@
+// SPDX-FileCopyrightText: 2026 The qmClient authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+// Draws a cell of a list view: ghosted items dimmed, and the selection only in the first column unless full
+// rows are selected. Owned by its view.
+
+#include <QStyledItemDelegate>
+
+namespace forms {
+
+class RowDelegate : public QStyledItemDelegate {
+    Q_OBJECT
+public:
+    using QStyledItemDelegate::QStyledItemDelegate;
+
+protected:
+    void initStyleOption(QStyleOptionViewItem* option, const QModelIndex& index) const override;
+};
+
+} // namespace forms

@@ -1,0 +1,61 @@
+// SPDX-FileCopyrightText: 2026 The qmClient authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "platform/forms/Timer.h"
+
+#include <QMetaMethod>
+#include <QPointer>
+
+namespace forms {
+
+Timer::Timer(QObject* parent) : QObject(parent) {
+    connect(&m_timer, &QTimer::timeout, this, &Timer::tick);
+}
+
+void Timer::SetEnabled(bool enabled) {
+    if (enabled == m_enabled)
+        return;
+    m_enabled = enabled;
+    restart();
+}
+
+void Timer::SetInterval(std::int32_t milliseconds) {
+    m_interval = milliseconds;
+    restart();
+}
+
+void Timer::connectNotify(const QMetaMethod&) {
+    followHandlers();
+}
+void Timer::disconnectNotify(const QMetaMethod&) {
+    followHandlers();
+}
+
+bool Timer::isHandled() const {
+    static const QMetaMethod signal = QMetaMethod::fromSignal(&Timer::ThatTime);
+    return isSignalConnected(signal);
+}
+
+void Timer::restart() {
+    if (m_enabled && m_interval > 0 && isHandled())
+        m_timer.start(m_interval);
+    else
+        m_timer.stop();
+}
+
+// A second handler must not put off the tick that the first one waits for.
+void Timer::followHandlers() {
+    if (m_timer.isActive() != isHandled())
+        restart();
+}
+
+void Timer::tick() {
+    if (m_inTick)
+        return;
+    const QPointer<Timer> alive(this);
+    m_inTick = true;
+    Q_EMIT ThatTime();
+    if (alive)
+        m_inTick = false;
+}
+
+} // namespace forms

@@ -1,0 +1,42 @@
+// SPDX-FileCopyrightText: 2026 The qmClient authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "platform/forms/UserLocale.h"
+
+#include "platform/forms/Text.h"
+
+#include <QRegularExpression>
+#include <QStringList>
+
+namespace forms {
+namespace {
+
+// A year of two digits says nothing about a log that is kept for years.
+QString withFourDigitYear(const QString& pattern) {
+    static const QRegularExpression twoDigits(QStringLiteral("(?<!y)yy(?!y)"));
+    return QString(pattern).replace(twoDigits, QStringLiteral("yyyy"));
+}
+
+// The times of a log are the server's wall-clock times, so a zone would be ours and wrong.
+QString withoutZone(const QString& pattern) {
+    static const QRegularExpression zone(QStringLiteral("\\s*t+"));
+    return QString(pattern).remove(zone).trimmed();
+}
+
+} // namespace
+
+basic::DateTimeFormat userDateTimeFormat(const QLocale& locale) {
+    basic::DateTimeFormat format;
+    format.shortDate = fromQString(withFourDigitYear(locale.dateFormat(QLocale::ShortFormat)));
+    format.longTime = fromQString(withoutZone(locale.timeFormat(QLocale::LongFormat)));
+    format.decimalSeparator = fromQString(locale.decimalPoint());
+    format.amText = fromQString(locale.amText());
+    format.pmText = fromQString(locale.pmText());
+    return format;
+}
+
+std::string userLanguageName(const QLocale& locale) {
+    const QStringList languages = locale.uiLanguages();
+    return fromQString(languages.isEmpty() ? locale.name() : languages.front());
+}
+
+} // namespace forms
