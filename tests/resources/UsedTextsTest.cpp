@@ -51,8 +51,7 @@ struct Findings {
 };
 
 void scan(const std::string& source, const std::string& name, const Table& texts, Findings& findings) {
-    static const std::regex call(
-        R"rx(LoadLocalString\(\s*(\d+)\s*(?:,((?:\s*"(?:[^"\\]|\\.)*")+))?)rx");
+    static const std::regex call(R"rx(LoadLocalString\(\s*(\d+)\s*(?:,((?:\s*"(?:[^"\\]|\\.)*")+))?)rx");
     for (std::sregex_iterator found(source.begin(), source.end(), call), end; found != end; ++found) {
         const std::int32_t id = std::stoi((*found)[1]);
         findings.used.insert(id);
@@ -91,7 +90,8 @@ TEST(UsedTexts, EveryNumberInTheProgramsSourcesIsInTheTable) {
 TEST(UsedTexts, AScanSeesMissingNumbersAndOtherTexts) {
     const Table texts{{7, "Close"}, {8, "two\nlines"}};
     Findings findings;
-    scan("a(LoadLocalString(7)); b(LoadLocalString( 7, \"Clo\"\n  \"se\")); LoadLocalString(8, \"two\\nlines\");",
+    scan("a(LoadLocalString(7)); b(LoadLocalString( 7, \"Clo\"\n  \"se\")); LoadLocalString(8, "
+         "\"two\\nlines\");",
          "ok.cpp", texts, findings);
     EXPECT_THAT(findings.faults, ::testing::IsEmpty());
     EXPECT_THAT(findings.used, ::testing::ElementsAre(7, 8));

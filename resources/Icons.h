@@ -1,0 +1,32 @@
+// SPDX-FileCopyrightText: 2026 The qmClient authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+// The program's pictures, drawn from the SVG files in resources/icons, which are compiled in. They are sharp
+// at every size and scale; the marks and buttons take their colours from the palette each time they are
+// drawn, so a change between light and dark themes needs no new icons. Marks differ by shape, not by colour
+// alone. User-interface thread, once the application object exists.
+
+#include <QIcon>
+
+#include <cstdint>
+
+namespace resources {
+
+// Numbers of the call list's small icons and of the tab strip's image.
+inline constexpr std::int32_t kCallWithMessage = 1;
+inline constexpr std::int32_t kCallWithoutMessage = 8;
+inline constexpr std::int32_t kMailboxImage = 1;
+
+enum class PlayerIcon { Play, Pause, Stop, Rewind, Forward };
+
+QIcon programIcon();
+// The program's mark in fewer strokes, for a panel.
+QIcon trayIcon();
+// By the numbers above; a null icon for any other.
+QIcon callIcon(std::int32_t smallIcon);
+QIcon mailboxIcon(std::int32_t image);
+QIcon playerIcon(PlayerIcon button);
+// The picture of the popup that announces calls.
+QIcon newCallsPicture();
+
+} // namespace resources
