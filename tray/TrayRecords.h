@@ -14,7 +14,8 @@
 
 namespace tray {
 
-// What the 32-bit answer of GetVersion says: major in the low byte, minor in the second, top bit clear for NT.
+// What the 32-bit answer of GetVersion says: major in the low byte, minor in the second, top bit clear for
+// NT.
 struct PlatformVersion {
     bool isWide = false;
     bool isVersion5Shell = false;
@@ -38,7 +39,8 @@ public:
     void setTip(const QString& tip);
     shell::IconHandle icon() const noexcept;
     void setIcon(shell::IconHandle icon) noexcept;
-    void setBalloon(const QString& message, const QString& title, std::uint32_t timeout, std::uint32_t iconFlags);
+    void setBalloon(const QString& message, const QString& title, std::uint32_t timeout,
+                    std::uint32_t iconFlags);
 
 private:
     // Runs `use` on the record in use.

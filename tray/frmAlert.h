@@ -1,10 +1,10 @@
 // SPDX-FileCopyrightText: 2026 The qmClient authors
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
-// The popup that announces new calls in the bottom right corner of the primary monitor, above a taskbar at its
-// bottom. The owner writes lblInfo and calls ShowForm(); a click on one of the two links hides the popup and
-// raises Show. It stays until then, never takes the keyboard, and lives as long as the owner wants to reuse
-// it. User-interface thread; the error handler and the desktop must outlive it.
+// The popup that announces new calls in the bottom right corner of the primary monitor, above a taskbar at
+// its bottom. The owner writes lblInfo and calls ShowForm(); a click on one of the two links hides the popup
+// and raises Show. It stays until then, never takes the keyboard, and lives as long as the owner wants to
+// reuse it. User-interface thread; the error handler and the desktop must outlive it.
 
 #include "errors/ErrorHandler.h"
 #include "platform/shell/DesktopWindows.h"
@@ -25,7 +25,8 @@ public:
 
     // The message, to be set before every showing. Plain text.
     QLabel& lblInfo() { return *m_lblInfo; }
-    // Places the popup, shows it and makes it top-most; on a visible popup, it moves it to where it belongs now.
+    // Places the popup, shows it and makes it top-most; on a visible popup, it moves it to where it belongs
+    // now.
     void ShowForm();
 
 Q_SIGNALS:

@@ -2,10 +2,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "tray/frmSysTray.h"
 
-#include "platform/basic/RuntimeError.h"
+#include "platform/basic/Conversion.h"
 
-#include <cmath>
-#include <limits>
 #include <utility>
 
 namespace tray {
@@ -13,15 +11,6 @@ namespace {
 
 constexpr int kLeftButton = 1;
 constexpr int kRightButton = 2;
-
-// As the platform converts: to the nearest whole number, halves to the even one.
-std::int32_t toLong(double value) {
-    const double rounded = std::nearbyint(value);
-    if (!(rounded >= std::numeric_limits<std::int32_t>::min() &&
-          rounded <= std::numeric_limits<std::int32_t>::max()))
-        throw basic::RuntimeError(basic::kOverflow);
-    return static_cast<std::int32_t>(rounded);
-}
 
 } // namespace
 
@@ -96,7 +85,7 @@ void frmSysTray::ShowBalloonTip(const QString& Message, const QString& Title, st
                                 double Timeout) {
     if (!m_records.isVersion5Shell())
         return;
-    m_records.setBalloon(Message, Title, static_cast<std::uint32_t>(toLong(Timeout)),
+    m_records.setBalloon(Message, Title, static_cast<std::uint32_t>(basic::CLng(Timeout)),
                          static_cast<std::uint32_t>(IconFlags));
     m_records.call(shell::kNimModify, shell::kNifInfo);
 }

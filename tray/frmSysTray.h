@@ -4,7 +4,8 @@
 // The tray icon component: one icon in the notification area from Load() to Unload(), the shell's
 // notifications as events, and a popup menu whose items the owner adds at run time. It knows nothing of
 // mailboxes and calls. None of its procedures traps errors. User-interface thread; events are raised from the
-// event loop, never from inside a call of the owner's. The services must outlive it; destroying it unloads it.
+// event loop, never from inside a call of the owner's. The services must outlive it; destroying it unloads
+// it.
 
 #include "platform/basic/Twips.h"
 #include "platform/shell/IconTable.h"
@@ -35,7 +36,8 @@ class frmSysTray : public QObject {
     Q_OBJECT
 public:
     // The name is the tip at load, the icon that of the component's window.
-    frmSysTray(const TrayServices& services, QString programName, QIcon windowIcon, QObject* parent = nullptr);
+    frmSysTray(const TrayServices& services, QString programName, QIcon windowIcon,
+               QObject* parent = nullptr);
     ~frmSysTray() override;
 
     void Load();

@@ -5,8 +5,8 @@
 // record's bytes and answer like the platform: false for a malformed record, an unknown window, an unknown
 // icon handle, adding twice, changing or removing what is not there. A program that runs without a
 // notification area is no failure: the icon is kept and appears as soon as there is one. Notifications come
-// back as messages posted to the record's window (number uCallbackMessage, wParam uID, lParam the code), never
-// from inside a call:
+// back as messages posted to the record's window (number uCallbackMessage, wParam uID, lParam the code),
+// never from inside a call:
 //   StatusNotifier  activation: 513, 514, 515; its exported menu opens: 516, 517
 //   XEmbed          left click: 513, 514; double click: 515, 514 behind the click; right click: 516, 517
 // User-interface thread.

@@ -39,8 +39,8 @@ NotifyIconRecord takenApart(const Data& data, bool isVersion2) {
     if ((data.uFlags & kNifTip) != 0)
         record.tip = textOf(data.szTip, isVersion2 ? kTipCapacity : kTipCapacityVersion1);
     if (isVersion2 && (data.uFlags & kNifInfo) != 0)
-        record.balloon = NotifyIconRecord::Balloon{textOf(data.szInfo), textOf(data.szInfoTitle), data.uTimeout,
-                                                   data.dwInfoFlags};
+        record.balloon = NotifyIconRecord::Balloon{textOf(data.szInfo), textOf(data.szInfoTitle),
+                                                   data.uTimeout, data.dwInfoFlags};
     return record;
 }
 
