@@ -4,6 +4,8 @@
 
 #include "errors/Procedure.h"
 #include "platform/basic/Twips.h"
+#include "platform/forms/ModalState.h"
+#include "resources/Icons.h"
 #include "resources/StringTable.h"
 #include "tray/LinkLabel.h"
 
@@ -19,6 +21,7 @@ using basic::Twips;
 
 constexpr int kSideTolerance = 10; // how far a taskbar may end from the screen's sides and still span it
 constexpr int kLeastTaskbarTop = 11;
+constexpr int kPictureSize = 32;
 
 QString text(std::int32_t id, std::string_view english) {
     return QString::fromStdString(resources::LoadLocalString(id, english));
@@ -61,6 +64,7 @@ frmAlert::frmAlert(errors::ErrorHandler& errorHandler, shell::DesktopWindows& de
 
 void frmAlert::layOut() {
     m_Shape1->setFrameShape(QFrame::StyledPanel);
+    m_Image1->setFixedSize(kPictureSize, kPictureSize);
     auto* box = new QGridLayout(m_Shape1);
     box->addWidget(m_Image1, 0, 0, 2, 1, Qt::AlignCenter);
     box->addWidget(m_lblInfo, 0, 1, Qt::AlignVCenter);
@@ -71,6 +75,13 @@ void frmAlert::layOut() {
     whole->setContentsMargins(0, 0, 0, 0);
     whole->setSizeConstraint(QLayout::SetFixedSize);
     whole->addWidget(m_Shape1);
+}
+
+// Drawn anew for each showing: theme and scale may have changed since the last.
+void frmAlert::showEvent(QShowEvent* event) {
+    m_Image1->setPixmap(
+        resources::newCallsPicture().pixmap(QSize(kPictureSize, kPictureSize), devicePixelRatio()));
+    QWidget::showEvent(event);
 }
 
 void frmAlert::ShowForm() {
@@ -94,7 +105,7 @@ void frmAlert::ShowForm() {
             top.value -= basic::fromPixels(bar.height()).value;
     });
     proc.step([&] { m_desktop.move(*this, basic::toPixels(left), basic::toPixels(top)); });
-    proc.step([&] { show(); });
+    proc.step([&] { forms::showNonModal(*this); });
     proc.step([&] { m_desktop.clearOwner(*this); });
     proc.step([&] { m_desktop.makeTopMost(*this); });
 }

@@ -33,6 +33,9 @@ Q_SIGNALS:
     // After the popup has hidden itself: false for the "x", true for the open link. A handler may change it.
     void Show(bool& ShowList);
 
+protected:
+    void showEvent(QShowEvent* event) override;
+
 private:
     void layOut();
     void linkClicked(bool ShowList);
