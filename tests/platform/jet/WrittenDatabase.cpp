@@ -1,0 +1,106 @@
+// SPDX-FileCopyrightText: 2026 The qmClient authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "tests/platform/jet/WrittenDatabase.h"
+
+#include "platform/jet/Catalog.h"
+#include "platform/jet/Checker.h"
+#include "platform/jet/PageReader.h"
+#include "platform/jet/TableDefinitionReader.h"
+#include "platform/jet/TableScan.h"
+#include "platform/jet/TableWriter.h"
+#include "platform/jet/ValueDecoder.h"
+
+#include <array>
+#include <cstdio>
+#include <cstdlib>
+#include <stdexcept>
+
+namespace jet::test {
+namespace {
+
+TableDefinition definitionOf(PageSource& pages, std::string_view table) {
+    return TableDefinitionReader(pages).read(Catalog(pages).find(table).definitionPage(), table);
+}
+
+} // namespace
+
+std::vector<Values> readRows(share::File& file, std::string_view table) {
+    PageReader pages(file, 0);
+    const TableDefinition definition = definitionOf(pages, table);
+    TableScan scan(pages, definition, table);
+    ValueDecoder decoder(pages);
+    std::vector<Values> rows;
+    while (scan.next()) {
+        Values& row = rows.emplace_back();
+        for (const Column& column : definition.columns)
+            row.push_back(decoder.value(scan.row(), column));
+    }
+    return rows;
+}
+
+std::uint32_t storedCount(share::File& file, std::string_view table) {
+    PageReader pages(file, 0);
+    return definitionOf(pages, table).rowCount;
+}
+
+void checkDatabase(share::File& file) {
+    PageReader pages(file, 0);
+    Checker(pages).run();
+}
+
+TemporaryFolder::TemporaryFolder() {
+    std::string pattern = (std::filesystem::temp_directory_path() / "qmjetXXXXXX").string();
+    if (mkdtemp(pattern.data()) == nullptr)
+        throw std::runtime_error("no temporary folder");
+    m_path = pattern;
+}
+
+TemporaryFolder::~TemporaryFolder() {
+    std::error_code ignored;
+    std::filesystem::remove_all(m_path, ignored);
+}
+
+WrittenDatabase::WrittenDatabase()
+    : m_path(m_folder.path("test.mdb")), m_file(share::LocalFile::open(m_path, share::OpenMode::Create)) {
+    createDatabase(*m_file, kCreated);
+}
+
+void WrittenDatabase::insert(std::string_view table, const std::vector<Values>& rows) {
+    TableWriter writer(*m_file, table);
+    for (const Values& row : rows)
+        writer.insert(row);
+    writer.flush();
+}
+
+std::string WrittenDatabase::tool(const std::string& program, const std::string& options,
+                                  const std::string& after) const {
+    const std::string command = program + " " + options + " '" + m_path + "' " + after;
+    std::FILE* pipe = popen(command.c_str(), "r");
+    if (pipe == nullptr)
+        throw std::runtime_error("cannot run " + command);
+    std::string output;
+    std::array<char, 4096> buffer{};
+    while (const std::size_t count = std::fread(buffer.data(), 1, buffer.size(), pipe))
+        output.append(buffer.data(), count);
+    if (pclose(pipe) != 0)
+        throw std::runtime_error("failed: " + command);
+    return output;
+}
+
+TableSpec callLogSpec() {
+    const auto text = [](const char* name, std::uint16_t size) {
+        return ColumnSpec{.name = name, .type = ColumnType::Text, .size = size, .compressed = true};
+    };
+    return {.name = "CallLog",
+            .columns = {{.name = "ID", .type = ColumnType::Long, .autonumber = true},
+                        text("CallID", 50),
+                        {.name = "CallDate", .type = ColumnType::Date},
+                        text("CallerID", 64),
+                        text("CallerName", 255),
+                        {.name = "MessageLength", .type = ColumnType::Long},
+                        {.name = "CallDetails", .type = ColumnType::Memo, .compressed = true}},
+            .indexes = {{.name = "PrimaryKey", .columns = {{"ID"}}, .primaryKey = true},
+                        {.name = "CallID", .columns = {{"CallID"}}, .unique = true}}};
+}
+
+} // namespace jet::test

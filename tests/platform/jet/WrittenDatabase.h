@@ -1,0 +1,69 @@
+// SPDX-FileCopyrightText: 2026 The qmClient authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+// What the tests of the writing half share: a database in a folder of its own, read back with our own reader
+// and with the public tools, which are programs of another make.
+
+#include "platform/basic/Variant.h"
+#include "platform/jet/DatabaseBuilder.h"
+#include "platform/jet/PageSource.h"
+#include "platform/share/LocalFile.h"
+
+#include <filesystem>
+#include <memory>
+#include <string>
+#include <vector>
+
+namespace jet::test {
+
+using Values = std::vector<basic::Variant>;
+
+// A Tuesday noon.
+inline constexpr basic::Date kCreated{38143.5};
+
+// Every row in the order of a scan, every column in the order of its number.
+std::vector<Values> readRows(share::File& file, std::string_view table);
+// The count of the table's definition.
+std::uint32_t storedCount(share::File& file, std::string_view table);
+// Throws what the Checker finds.
+void checkDatabase(share::File& file);
+
+class TemporaryFolder {
+public:
+    TemporaryFolder();
+    ~TemporaryFolder();
+    TemporaryFolder(const TemporaryFolder&) = delete;
+    TemporaryFolder& operator=(const TemporaryFolder&) = delete;
+    std::string path(const std::string& name) const { return (m_path / name).string(); }
+
+private:
+    std::filesystem::path m_path;
+};
+
+class WrittenDatabase {
+public:
+    WrittenDatabase();
+
+    share::File& file() { return *m_file; }
+    const std::string& path() const { return m_path; }
+    void createTable(const TableSpec& spec) { jet::createTable(*m_file, spec, kCreated); }
+    void insert(std::string_view table, const std::vector<Values>& rows);
+    std::vector<Values> rows(std::string_view table) { return readRows(*m_file, table); }
+    // The standard output of a program of mdbtools with the database's name put in after `options`.
+    std::string tool(const std::string& program, const std::string& options,
+                     const std::string& after = {}) const;
+    // A table as JSON lines, the tools' form that tells Null from empty and text from numbers.
+    std::string json(const std::string& table) const {
+        return tool("mdb-json", "-T '%Y-%m-%d %H:%M:%S'", table);
+    }
+
+private:
+    TemporaryFolder m_folder;
+    std::string m_path;
+    std::unique_ptr<share::File> m_file;
+};
+
+// ID autonumber and primary key, CallID unique, and the columns of a call log.
+TableSpec callLogSpec();
+
+} // namespace jet::test
