@@ -2,7 +2,7 @@
 # SPDX-License-Identifier: GPL-3.0-or-later
 """Private desktops for tests and for the demonstration."""
 from .desktop import Desktop
-from .processes import DesktopError, Program, die_with_parent, wait_until
+from .processes import DesktopError, Program, die_with_parent, temporary_folder, wait_until
 from .windows import Window
 
-__all__ = ['Desktop', 'DesktopError', 'Program', 'Window', 'die_with_parent', 'wait_until']
+__all__ = ['Desktop', 'DesktopError', 'Program', 'Window', 'die_with_parent', 'temporary_folder', 'wait_until']

@@ -2,14 +2,11 @@
 # SPDX-License-Identifier: GPL-3.0-or-later
 """A private desktop: X server, session bus, window manager, notification area, all folders temporary."""
 import os
-import pathlib
 import re
-import shutil
 import subprocess
-import tempfile
 
 from .helper import Helper
-from .processes import MARK, DesktopError, Program, adopt_orphans, end_strays, wait_until
+from .processes import MARK, DesktopError, Program, adopt_orphans, end_strays, temporary_folder, wait_until
 from .tray import Tray
 from .windows import Windows
 
@@ -33,9 +30,8 @@ class Desktop:
 
     def __enter__(self):
         adopt_orphans()
-        self.folder = pathlib.Path(tempfile.mkdtemp(prefix='qm-desktop-'))
-        self._caretaker = subprocess.Popen(['/bin/sh', '-c', 'cat >/dev/null; rm -rf -- "$0"', self.folder],
-                                           stdin=subprocess.PIPE, start_new_session=True)
+        self._lifetime = temporary_folder('qm-desktop-')
+        self.folder = self._lifetime.__enter__()
         try:
             self._start()
         except BaseException:
@@ -54,8 +50,7 @@ class Desktop:
         for program in reversed(self._programs):
             program.end()
         left = end_strays(self.folder)
-        self._caretaker.stdin.close()
-        self._caretaker.wait(10)
+        self._lifetime.__exit__(None, None, None)
         if left:
             raise DesktopError(f'processes {left} of the desktop do not end')
 
@@ -78,6 +73,8 @@ class Desktop:
             self.start(['openbox', '--sm-disable'])
             wait_until(self.windows.window_manager_ready, 'the window manager')
         self.tray = Tray(self.windows, self.start, self.env, self.folder)
+        if self._accessibility:
+            self.reader().ask('programs')
         if self._wanted_tray != 'none':
             self.tray.start(self._wanted_tray)
 
@@ -192,7 +189,7 @@ class Desktop:
                 if role in (None, o['role']) and (name is None or re.search(name, o['name']))
                 and (o['showing'] or not showing)]
 
-    def click_object(self, found):
-        """A real mouse click into the middle of an object."""
+    def click_object(self, found, window):
+        """A real mouse click into the middle of an object in `window`, which the X server says where it is."""
         x, y, width, height = self.reader().ask('rect', where=found['where'])
-        self.click(x + width // 2, y + height // 2)
+        self.click(window.x + x + width // 2, window.y + y + height // 2)

@@ -5,11 +5,13 @@
 Every program started here carries QM_DESKTOP=<folder of its desktop> in its environment, and this process adopts
 orphans, so that what a program leaves running in the background is found and ended as well.
 """
+import contextlib
 import ctypes
 import os
 import pathlib
 import signal
 import subprocess
+import tempfile
 import time
 
 PR_SET_PDEATHSIG, PR_SET_CHILD_SUBREAPER = 1, 36
@@ -97,6 +99,15 @@ class Program:
             except FileNotFoundError:
                 continue
         return sorted(found)
+
+
+@contextlib.contextmanager
+def temporary_folder(prefix):
+    """A folder that goes with the block; a shell removes it that notices when this process is killed."""
+    folder = pathlib.Path(tempfile.mkdtemp(prefix=prefix))
+    with subprocess.Popen(['/bin/sh', '-c', 'cat >/dev/null; rm -rf -- "$0"', folder], stdin=subprocess.PIPE,
+                          start_new_session=True):
+        yield folder
 
 
 def adopt_orphans():
