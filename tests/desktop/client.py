@@ -1,0 +1,117 @@
+# SPDX-FileCopyrightText: 2026 The qmClient authors
+# SPDX-License-Identifier: GPL-3.0-or-later
+"""The client as its user sees it: icon, menu, main window, popup. Texts are read as a screen reader reads them."""
+import re
+
+from desktop import DesktopError, wait_until
+from site_folder import program
+
+TITLE = '^(Quillamar Calls|Quillamar - Anrufe)$'
+POPUP = '^(You have  [0-9]+  new calls|Sie haben [0-9]+ neue Anrufe)$'
+SHOW = '^(Show|Anzeigen)$'
+OPEN, CONFIG, ABOUT, CLOSE = 1, 2, 3, 4
+# A program that was just started on a busy machine.
+START_SECONDS = 30
+
+
+class Client:
+    """Runs qmClient on a desktop that was made with accessibility=True and has a tray of the XEmbed kind."""
+
+    def __init__(self, desktop, **how):
+        self.desktop = desktop
+        self.process = desktop.start([program('qmClient')], **how)
+
+    @property
+    def alive(self):
+        return self.process.alive
+
+    def wait_docked(self):
+        """The icon in the notification area; it is there once everything else of the start-up is done, too."""
+        def docked():
+            if not self.alive:
+                raise DesktopError(f'the client has ended ({self.process.popen.returncode}): '
+                                   f'{self.process.errors()[-800:]}')
+            return self.desktop.tray.icons()
+        icon = wait_until(docked, 'the icon to dock', START_SECONDS)[0]
+        wait_until(lambda: self.process.pid in self.desktop.reader().ask('programs'), 'the client to be readable')
+        return icon
+
+    # Menu
+
+    def choose(self, entry):
+        """Picks an entry of the icon's menu by keyboard; the separator is not counted."""
+        x, y = self.wait_docked().center
+        self.desktop.click(x, y, 3)
+        self.desktop.wait_window(unmanaged=True, pid=self.process.pid)
+        self.desktop.key(*['Down'] * entry, 'Return')
+        self.desktop.wait_for(lambda: not self.desktop.windows.find(unmanaged=True, pid=self.process.pid)
+                              or not self.alive, 'the menu to close')
+
+    def open(self):
+        self.choose(OPEN)
+        return self.desktop.wait_window(TITLE)
+
+    def window(self):
+        return self.desktop.windows.find(TITLE)
+
+    # List
+
+    def _objects(self, role, name=None, showing=False):
+        return self.desktop.objects(self.process, role, name, showing)
+
+    def _list(self):
+        tables = [o for role in ('table', 'tree', 'tree table') for o in self._objects(role)]
+        if len(tables) != 1:
+            raise DesktopError(f'{len(tables)} lists instead of one')
+        return tables[0]['where']
+
+    def row_count(self):
+        return self.desktop.reader().ask('row_count', where=self._list())
+
+    def rows(self, count=20, first=0):
+        """The texts of the list, row by row."""
+        return self.desktop.reader().ask('cells', where=self._list(), first=first, count=count)
+
+    def wait_rows(self, count, seconds=15):
+        wait_until(lambda: self.row_count() == count, f'{count} rows in the list', seconds)
+
+    def wait_line(self, text, seconds=15):
+        """A list that holds nothing but one line of status."""
+        wait_until(lambda: [''.join(row) for row in self.rows()] == [text], f'the line {text!r}', seconds)
+
+    def tabs(self):
+        return [o['name'] for o in self._objects('page tab', showing=True)]
+
+    # Popup
+
+    def popup_text(self):
+        found = self._objects('label', POPUP, showing=True)
+        return found[0]['name'] if found else None
+
+    def popup_window(self):
+        """Where the X server has it, None while it is hidden."""
+        windows = [w for w in self.desktop.windows.all()
+                   if w.pid == self.process.pid and not re.search(TITLE, w.title) and not w.unmanaged]
+        return windows[0] if windows else None
+
+    def wait_popup(self, number=None, seconds=15):
+        """Until it is up, and announces that many calls if a number is told; gives its text."""
+        def announced():
+            text = self.popup_text()
+            return text if text and (number is None or int(re.search('[0-9]+', text)[0]) == number) else None
+        return wait_until(announced, f'the popup to announce {number or "calls"}', seconds)
+
+    def wait_no_popup(self):
+        wait_until(lambda: not self.popup_window(), 'the popup to hide')
+
+    def click_link(self, name):
+        """One of the popup's links, with the mouse."""
+        found = [o for role in ('label', 'link', 'push button', 'button') for o in self._objects(role, name, True)]
+        if len(found) != 1:
+            raise DesktopError(f'{len(found)} links {name!r} instead of one')
+        window = wait_until(self.popup_window, 'the popup')
+        self.desktop.click_object(found[0], window)
+
+    def dialogs(self):
+        """Texts of what stands open besides the main window and the popup."""
+        return [o['name'] for role in ('dialog', 'alert') for o in self._objects(role, showing=True)]

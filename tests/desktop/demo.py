@@ -1,0 +1,96 @@
+# SPDX-FileCopyrightText: 2026 The qmClient authors
+# SPDX-License-Identifier: GPL-3.0-or-later
+"""demo [--headless] [--lang LOCALE] [--every SECONDS]
+
+Shows the client with a server of its own that logs a new call every few seconds. With a display the client is there to
+be used, until it is closed from its tray icon or Ctrl+C is pressed. Without one, or with --headless, it is shown on a
+private desktop for about half a minute; pictures are left in build/demo/. Nothing is left anywhere else.
+"""
+import argparse
+import os
+import pathlib
+import re
+import signal
+import subprocess
+import sys
+
+sys.dont_write_bytecode = True
+sys.path.insert(0, str(pathlib.Path(__file__).resolve().parent))
+from demo_tour import Tour  # noqa: E402
+from desktop import Desktop, DesktopError, die_with_parent, temporary_folder  # noqa: E402
+from site_folder import ROOT, database, program, write_settings  # noqa: E402
+
+POLL_SECONDS = 5
+_FOLDERS = ('XDG_CONFIG_HOME', 'XDG_DATA_HOME', 'XDG_STATE_HOME', 'XDG_CACHE_HOME')
+
+
+def arguments():
+    parser = argparse.ArgumentParser(prog='scripts/demo', description=__doc__,
+                                     formatter_class=argparse.RawDescriptionHelpFormatter)
+    parser.add_argument('--headless', action='store_true', help='on a private desktop even where there is a display')
+    parser.add_argument('--lang', help='language of the client, such as de_DE.UTF-8')
+    parser.add_argument('--every', type=int, default=4, help='seconds between two calls')
+    return parser.parse_args()
+
+
+def make_share(folder):
+    """A share with the demo's mailboxes; answers their numbers and names."""
+    share = folder / 'share'
+    subprocess.run([program('qmjet'), 'create-demo', share], check=True, stdout=subprocess.DEVNULL)
+    numbers = sorted(int(entry.name) for entry in (share / 'MBX').iterdir())
+    return share, {number: name for number, name in zip(numbers, ('Reception', 'Service', 'Night'))}
+
+
+def count_calls(path):
+    """By the command-line tool, not by the client."""
+    done = subprocess.run([program('qmjet'), 'count', path, 'CallLog'], capture_output=True, text=True, check=True)
+    return int(re.search('[0-9]+', done.stdout)[0])
+
+
+def headless(chosen):
+    lang = chosen.lang or 'C.UTF-8'
+    pictures = ROOT / 'build' / 'demo' / ('' if lang.startswith('C') else lang.partition('_')[0])
+    with Desktop('1024x640', lang=lang, tray='trayer', accessibility=True) as desktop:
+        share, mailboxes = make_share(desktop.folder)
+        write_settings(desktop.env['XDG_CONFIG_HOME'], share, mailboxes, POLL_SECONDS)
+        desktop.start([program('qmdemo'), share, '--every', chosen.every])
+        complete = Tour(desktop, pictures, list(mailboxes), lambda n: count_calls(database(share, n))).run()
+    print(f'pictures in {pictures.relative_to(ROOT)}/: docked-icon.png, list.png, popup.png')
+    return 0 if complete else 1
+
+
+def with_display(chosen):
+    """On the user's own screen: only the settings and the share are the demo's."""
+    with temporary_folder('qm-demo-') as folder:
+        share, mailboxes = make_share(folder)
+        env = os.environ | {name: str(folder / name.lower()) for name in _FOLDERS}
+        if chosen.lang:
+            env |= {'LANG': chosen.lang, 'LC_ALL': chosen.lang, 'LANGUAGE': ''}
+        write_settings(env['XDG_CONFIG_HOME'], share, mailboxes, POLL_SECONDS)
+        programs = []
+        try:
+            for argv in ([program('qmdemo'), share, '--every', str(chosen.every)], [program('qmClient')]):
+                programs.append(subprocess.Popen(argv, env=env, cwd=folder, preexec_fn=die_with_parent))
+            print(f'The client is running; its icon is in the notification area. A call comes every {chosen.every} s.\n'
+                  'End it with "Close Quillamar Client" in the icon\'s menu, or with Ctrl+C here.', flush=True)
+            return programs[-1].wait()
+        finally:
+            for started in programs:
+                started.terminate()
+                started.wait()
+
+
+def main():
+    chosen = arguments()
+    for number in (signal.SIGTERM, signal.SIGHUP, signal.SIGINT):
+        signal.signal(number, lambda caught, _: sys.exit(128 + caught))
+    try:
+        if chosen.headless or not (os.environ.get('DISPLAY') or os.environ.get('WAYLAND_DISPLAY')):
+            return headless(chosen)
+        return with_display(chosen)
+    except (DesktopError, OSError, subprocess.CalledProcessError) as error:
+        print(f'demo: {error}', file=sys.stderr)
+        return 1
+
+
+sys.exit(main())

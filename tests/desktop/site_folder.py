@@ -1,0 +1,48 @@
+# SPDX-FileCopyrightText: 2026 The qmClient authors
+# SPDX-License-Identifier: GPL-3.0-or-later
+"""What a client needs around it: a folder that stands for the server's share, and the user's settings."""
+import os
+import pathlib
+
+from desktop import DesktopError
+
+ROOT = pathlib.Path(__file__).resolve().parents[2]
+BIN = pathlib.Path(os.environ.get('QM_BIN', ROOT / 'build' / 'dev' / 'bin'))
+SERVER = 'srv01'
+_KEY = r'HKEY_CURRENT_USER\Software\Corvantis\Quillamar\1.0'
+
+
+def program(name):
+    path = BIN / name
+    if not path.exists():
+        raise DesktopError(f'{path} is not built')
+    return path
+
+
+def mailbox_folder(share, number):
+    return pathlib.Path(share) / 'MBX' / str(number)
+
+
+def database(share, number):
+    return mailbox_folder(share, number) / 'qmLog.mdb'
+
+
+def _text(value):
+    return '"' + str(value).replace('\\', '\\\\').replace('"', '\\"') + '"'
+
+
+def write_settings(config_home, share, mailboxes, seconds=1, server=SERVER, **changed):
+    """The settings file as a Windows workstation exports it. mailboxes: {number: name}.
+
+    changed: other values of the client's key as they stand in the file, such as PollInterval='"often"'.
+    """
+    values = {'ServerName': _text(server), 'PollInterval': f'dword:{seconds:08x}'} | changed
+    lines = ['Windows Registry Editor Version 5.00', '', f'[{_KEY}\\Client]']
+    lines += [f'"{name}"={value}' for name, value in values.items()]
+    for number, name in mailboxes.items():
+        lines += ['', f'[{_KEY}\\Client\\Mailboxes\\{number}]', f'"Name"={_text(name)}',
+                  f'"Description"={_text(f"Mailbox {number}")}', '"MailboxType"="M"']
+    lines += ['', f'[{_KEY}\\Shares]', f'"{SERVER}"={_text(share)}', '']
+    folder = pathlib.Path(config_home) / 'Corvantis' / 'Quillamar'
+    folder.mkdir(parents=True, exist_ok=True)
+    (folder / 'registry.reg').write_bytes('\r\n'.join(lines).encode('utf-16'))
