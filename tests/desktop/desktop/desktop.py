@@ -71,7 +71,8 @@ class Desktop:
         self.windows = Windows(self.env['DISPLAY'])
         if self._wm:
             self.start(['openbox', '--sm-disable'])
-            wait_until(self.windows.window_manager_ready, 'the window manager')
+            for number in (1, 0):
+                wait_until(lambda n=number: self.windows.window_manager_answers(n), 'the window manager to answer')
         self.tray = Tray(self.windows, self.start, self.env, self.folder)
         if self._accessibility:
             self.reader().ask('programs')

@@ -46,11 +46,15 @@ class Windows:
     def selection_owner(self, name):
         return self._x.selection_owner(name)
 
-    def window_manager_ready(self):
-        """The check window must exist and point to itself: a name left behind by a dead manager does not count."""
-        names = '_NET_SUPPORTING_WM_CHECK'
-        root = self._x.numbers(self._x.root, names)
-        return bool(root) and self._x.numbers(root[0], names) == root
+    def window_manager_answers(self, desktop):
+        """Asks it to switch the desktop, true once it has.
+
+        That it has announced itself is not enough: a window that is mapped before it listens is never managed.
+        """
+        if self._x.numbers(self._x.root, '_NET_CURRENT_DESKTOP') == [desktop]:
+            return True
+        self._x.tell_window_manager(self._x.root, '_NET_CURRENT_DESKTOP', desktop, 0)
+        return False
 
     def window(self, number):
         """One window by its id, None when it is gone."""
