@@ -105,7 +105,8 @@ void RegistryTextWriter::writeHex(const Bytes& data, std::size_t column) {
             m_text += "\\\n  ";
             column = 5;
         }
-        m_text += hexNumber(data[i], 2);
+        m_text.push_back(kDigits[data[i] >> 4U]);
+        m_text.push_back(kDigits[data[i] & 0xFU]);
     }
 }
 
