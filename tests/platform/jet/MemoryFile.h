@@ -15,8 +15,8 @@ namespace jet::test {
 
 class MemoryFile final : public share::File {
 public:
-    explicit MemoryFile(std::vector<std::byte> bytes, std::string name = "test.mdb")
-        : bytes(std::move(bytes)), m_name(std::move(name)) {}
+    explicit MemoryFile(std::vector<std::byte> content, std::string name = "test.mdb")
+        : bytes(std::move(content)), m_name(std::move(name)) {}
 
     const std::string& name() const override { return m_name; }
     std::uint64_t size() override { return bytes.size(); }
