@@ -1,0 +1,38 @@
+// SPDX-FileCopyrightText: 2026 The qmClient authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "errors/ErrorRecord.h"
+
+#include "platform/basic/DateTimeFormat.h"
+
+namespace errors {
+namespace {
+
+constexpr std::size_t kDigits = 5;
+
+// At least five digits; the sign stands before them and does not count.
+std::string padded(std::int32_t number) {
+    std::string digits = std::to_string(number);
+    const std::size_t sign = number < 0 ? 1 : 0;
+    if (digits.size() - sign < kDigits)
+        digits.insert(sign, kDigits - (digits.size() - sign), '0');
+    return digits;
+}
+
+} // namespace
+
+std::string timeText(const basic::CalendarTime& time) {
+    return basic::formatPattern(time, "yyyy-MM-dd HH:mm:ss", {});
+}
+
+std::string recordText(const ErrorRecord& record) {
+    std::string text;
+    text.append("***** Error ").append(padded(record.number));
+    text.append(" at: ").append(timeText(record.at)).append("\r\n");
+    text.append("  *** Module:         ").append(record.module).append("\r\n");
+    text.append("  *** Procedure:      ").append(record.procedure).append("\r\n");
+    text.append("  *** Line Number:    ").append(std::to_string(record.line)).append("\r\n");
+    text.append("  *** Description:    ").append(record.description).append("\r\n");
+    return text;
+}
+
+} // namespace errors
