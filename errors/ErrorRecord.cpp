@@ -12,7 +12,7 @@ constexpr std::size_t kDigits = 5;
 // At least five digits; the sign stands before them and does not count.
 std::string padded(std::int32_t number) {
     std::string digits = std::to_string(number);
-    const std::size_t sign = number < 0 ? 1 : 0;
+    const std::size_t sign = number < 0 ? 1U : 0U;
     if (digits.size() - sign < kDigits)
         digits.insert(sign, kDigits - (digits.size() - sign), '0');
     return digits;

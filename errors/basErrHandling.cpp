@@ -52,6 +52,8 @@ ErrorAction basErrHandling::ReportError(std::string_view module, std::string_vie
 std::string basErrHandling::ask(const ErrorRecord& failure) {
     if (!m_dialog)
         m_dialog = m_makeDialog();
+    if (!m_dialog)
+        return {};
     attempt([&] { m_dialog->setErrorNumber(failure.number); });
     attempt([&] { m_dialog->setLineNumber(failure.line); });
     attempt([&] { m_dialog->setDescription(failure.description); });

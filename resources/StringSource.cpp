@@ -3,6 +3,7 @@
 #include "resources/StringSource.h"
 
 #include "platform/basic/RuntimeError.h"
+#include "platform/basic/Utf8.h"
 
 #include <charconv>
 
@@ -93,32 +94,6 @@ private:
     std::size_t m_number;
 };
 
-// How many bytes follow the first byte of a character; -1 for a byte that begins none.
-int followers(unsigned char first) {
-    if (first < 0x80)
-        return 0;
-    if (first >= 0xC2 && first < 0xE0)
-        return 1;
-    if (first >= 0xE0 && first < 0xF0)
-        return 2;
-    return first >= 0xF0 && first < 0xF5 ? 3 : -1;
-}
-
-// Catches a file saved in another encoding; overlong forms of three and four bytes are not looked for.
-bool isUtf8(std::string_view text) {
-    int expected = 0;
-    for (const char character : text) {
-        const auto byte = static_cast<unsigned char>(character);
-        const bool follows = (byte & 0xC0U) == 0x80U;
-        if (follows != (expected > 0))
-            return false;
-        expected = follows ? expected - 1 : followers(byte);
-        if (expected < 0)
-            return false;
-    }
-    return expected == 0;
-}
-
 } // namespace
 
 std::vector<SourceString> parseStrings(std::string_view file) {
@@ -128,7 +103,7 @@ std::vector<SourceString> parseStrings(std::string_view file) {
         file.remove_prefix(line.size() == file.size() ? line.size() : line.size() + 1);
         if (line.empty() || line.front() == '#')
             continue;
-        if (!isUtf8(line))
+        if (!basic::isValidUtf8(line))
             refuse(number, "not UTF-8");
         entries.push_back(LineReader(line, number).read());
         if (entries.size() > 1 && entries.back().id <= entries[entries.size() - 2].id)
