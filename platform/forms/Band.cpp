@@ -90,14 +90,35 @@ Tool& Band::Tools(std::string_view name) const {
     return **found;
 }
 
+// The toolkit deletes a widget that is put into a toolbar with the toolbar, so the program's widget lies in a
+// frame that stays there.
 void Band::host(Tool& tool, QWidget* former) {
-    if (former == tool.Custom() || m_toolBar == nullptr)
-        return;
-    if (former != nullptr) {
+    QWidget* custom = tool.Custom();
+    if (former != nullptr && former != custom) {
         former->hide();
         former->setParent(&m_window);
     }
-    tool.action()->setVisible(true);
+    if (custom == nullptr)
+        return;
+    QHBoxLayout& place = placeOf(tool);
+    if (place.indexOf(custom) < 0)
+        place.addWidget(custom);
+    const bool isLimited = custom->sizePolicy().horizontalPolicy() == QSizePolicy::Maximum;
+    place.parentWidget()->setSizePolicy(isLimited ? QSizePolicy::Maximum : QSizePolicy::Expanding,
+                                        QSizePolicy::Preferred);
+    custom->show();
+}
+
+QHBoxLayout& Band::placeOf(Tool& tool) {
+    QHBoxLayout*& place = m_places[&tool];
+    if (place == nullptr) {
+        auto* frame = new QWidget(m_toolBar);
+        place = new QHBoxLayout(frame);
+        place->setContentsMargins({});
+        m_toolBar->insertWidget(tool.action(), frame);
+        tool.action()->setVisible(false);
+    }
+    return *place;
 }
 
 } // namespace forms

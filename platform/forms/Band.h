@@ -9,6 +9,7 @@
 
 #include <QObject>
 
+#include <map>
 #include <memory>
 #include <string>
 #include <string_view>
@@ -53,6 +54,7 @@ private:
     void draw();
     void show(Tool& tool);
     void host(Tool& tool, QWidget* former);
+    QHBoxLayout& placeOf(Tool& tool);
 
     std::string m_name;
     std::string m_caption;
@@ -61,6 +63,7 @@ private:
     QMenu* m_menu = nullptr;
     QToolBar* m_toolBar = nullptr;
     std::vector<std::unique_ptr<Tool>> m_tools;
+    std::map<const Tool*, QHBoxLayout*> m_places;
 };
 
 } // namespace forms

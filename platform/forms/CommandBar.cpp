@@ -3,6 +3,7 @@
 #include "platform/forms/CommandBar.h"
 
 #include "platform/basic/RuntimeError.h"
+#include "platform/forms/DescriptionLabel.h"
 
 #include <QAction>
 #include <QMainWindow>
@@ -43,6 +44,10 @@ void CommandBar::SetClientAreaControl(QWidget* control) {
 }
 QWidget* CommandBar::ClientAreaControl() const {
     return m_window.centralWidget();
+}
+
+void CommandBar::ShowDescriptionsIn(Tool& tool) {
+    tool.SetCustom(new DescriptionLabel(m_window));
 }
 
 void CommandBar::PopupMenu(std::string_view bandName, const QPoint& globalPos) {

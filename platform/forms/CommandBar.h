@@ -32,6 +32,9 @@ public:
     void SetClientAreaControl(QWidget* control);
     QWidget* ClientAreaControl() const;
 
+    // Makes a toolbar's tool the place where the description of the tool under the mouse is shown.
+    void ShowDescriptionsIn(Tool& tool);
+
     // Opens the band as a context menu and returns at once.
     void PopupMenu(std::string_view bandName, const QPoint& globalPos);
 

@@ -25,6 +25,11 @@ ListModel& ListItem::model() const {
     return *m_model;
 }
 
+int ListItem::Index() const {
+    model();
+    return m_row + 1;
+}
+
 std::string_view ListItem::Key() const {
     return model().rows().key(m_row);
 }

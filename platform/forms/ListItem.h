@@ -16,7 +16,7 @@ class ListItem {
 public:
     ListItem(ListModel& model, int row);
 
-    int Index() const { return m_row + 1; }
+    int Index() const;
     std::string_view Key() const;
 
     std::string_view Text() const;

@@ -45,6 +45,7 @@ public:
     const ImageList& smallIcons() const noexcept { return m_smallIcons; }
     void setSmallIcons(const ImageList& images);
     void showCheckBoxes(bool shown);
+    bool hasCheckBoxes() const noexcept { return m_checkBoxes; }
 
     // Tells the view all that changed since the last time.
     void announce();

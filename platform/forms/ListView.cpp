@@ -75,7 +75,7 @@ std::optional<ListItem> ListView::SelectedItem() {
 
 void ListView::SetSelectedItem(const ListItem& item) {
     synchronise();
-    const QModelIndex index = m_model->index(m_listItems.Item(item.Index()).Index() - 1, 0);
+    const QModelIndex index = m_model->index(item.Index() - 1, 0);
     const auto command = MultiSelect() ? QItemSelectionModel::Select : QItemSelectionModel::ClearAndSelect;
     m_view->selectionModel()->setCurrentIndex(index, command | QItemSelectionModel::Rows);
 }

@@ -122,10 +122,20 @@ void ReportView::keyPressEvent(QKeyEvent* event) {
         return;
     }
     Q_EMIT userInput();
+    if (event->key() == Qt::Key_Space && m_model.hasCheckBoxes() && currentIndex().isValid()) {
+        toggleCheck(currentIndex().row());
+        return;
+    }
     const int before = m_selectionChanges;
     QTreeView::keyPressEvent(event);
     if (m_selectionChanges != before && currentIndex().isValid())
         Q_EMIT rowClicked(currentIndex().row());
+}
+
+// Whichever column the mouse went to last: the toolkit would check only from the box's own.
+void ReportView::toggleCheck(int row) {
+    const bool isChecked = m_model.rows().flags(row).isChecked;
+    m_model.setData(m_model.index(row, 0), isChecked ? Qt::Unchecked : Qt::Checked, Qt::CheckStateRole);
 }
 
 void ReportView::contextMenuEvent(QContextMenuEvent* event) {

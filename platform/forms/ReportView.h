@@ -46,6 +46,7 @@ protected:
     void changeEvent(QEvent* event) override;
 
 private:
+    void toggleCheck(int row);
     bool isStatusLine() const;
     int drawnWidth(int column) const;
     int contentWidth(int column) const;

@@ -26,8 +26,9 @@ void Timer::SetInterval(std::int32_t milliseconds) {
 void Timer::connectNotify(const QMetaMethod&) {
     followHandlers();
 }
+// The toolkit calls this with its connections locked, so the look at them waits for the event loop.
 void Timer::disconnectNotify(const QMetaMethod&) {
-    followHandlers();
+    QMetaObject::invokeMethod(this, &Timer::followHandlers, Qt::QueuedConnection);
 }
 
 bool Timer::isHandled() const {
@@ -51,6 +52,11 @@ void Timer::followHandlers() {
 void Timer::tick() {
     if (m_inTick)
         return;
+    // A handler whose object was destroyed went without a notice.
+    if (!isHandled()) {
+        m_timer.stop();
+        return;
+    }
     const QPointer<Timer> alive(this);
     m_inTick = true;
     Q_EMIT ThatTime();

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "platform/forms/Tool.h"
 
+#include "platform/basic/RuntimeError.h"
 #include "platform/forms/Text.h"
 
 #include <QAction>
@@ -73,6 +74,8 @@ void Tool::SetSubBand(std::string_view bandName) {
 }
 
 void Tool::SetCustom(QWidget* widget) {
+    if (widget != nullptr && !m_inToolbar)
+        throw basic::RuntimeError(basic::kInvalidProcedureCall);
     QWidget* former = m_custom;
     m_custom = widget;
     Q_EMIT customChanged(former);

@@ -53,7 +53,7 @@ public:
 
     // The program's widget in the tool's place in a toolbar, where it takes the room that is left. Null takes
     // it out again; it then is a hidden child of the window it was in. It stays its owner's; the same one may
-    // be set again at any time.
+    // be set again at any time, also after it went elsewhere. Error 5 in a band that is no toolbar.
     QWidget* Custom() const { return m_custom; }
     void SetCustom(QWidget* widget);
 
