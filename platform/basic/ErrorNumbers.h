@@ -33,8 +33,10 @@ inline constexpr std::int32_t kKeyNotUnique = 35602;
 
 inline constexpr std::int32_t kNoCurrentRecord = 3021;
 inline constexpr std::int32_t kItemNotInCollection = 3265;
+inline constexpr std::int32_t kInTransaction = 3246;
 inline constexpr std::int32_t kObjectClosed = 3704;
 inline constexpr std::int32_t kObjectOpen = 3705;
+inline constexpr std::int32_t kProviderNotFound = 3706;
 
 inline constexpr std::int32_t kProviderFailure = -2147467259;     // E_FAIL: open, read, damaged, locked
 inline constexpr std::int32_t kProviderSyntax = -2147217900;      // DB_E_ERRORSINCOMMAND

@@ -1,0 +1,32 @@
+// SPDX-FileCopyrightText: 2026 The qmClient authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "platform/jet/Engine.h"
+
+#include "platform/basic/TextCompare.h"
+
+#include <chrono>
+#include <thread>
+#include <utility>
+
+namespace jet {
+namespace {
+
+constexpr std::size_t kMaximumHints = 512; // mailboxes polled by one client stay far below
+constexpr std::chrono::milliseconds kShortestPause{3};
+
+} // namespace
+
+Engine::Engine(share::FileSystemObject& files, ReadPause pause) : m_files(files), m_pause(std::move(pause)) {}
+
+CatalogHint& Engine::hint(std::string_view path, std::string_view table) {
+    std::string key = basic::foldCase(path) + '\n' + basic::foldCase(table);
+    if (m_hints.size() >= kMaximumHints && !m_hints.contains(key))
+        m_hints.clear();
+    return m_hints[std::move(key)];
+}
+
+void Engine::sleepBriefly(int attempt) {
+    std::this_thread::sleep_for(attempt * kShortestPause);
+}
+
+} // namespace jet

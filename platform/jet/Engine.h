@@ -1,0 +1,82 @@
+// SPDX-FileCopyrightText: 2026 The qmClient authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+// The provider behind all connections of a program: opens database files through the file-system object,
+// reads them in a consistent state although their server writes meanwhile, and remembers where a table was
+// found, so that the next count costs a handful of page reads. Holds no file between two readings. The file
+// system must outlive it, and it must outlive its connections. One thread at a time.
+
+#include "platform/jet/CatalogHint.h"
+#include "platform/jet/Database.h"
+#include "platform/jet/ReadGuard.h"
+#include "platform/share/FileSystemObject.h"
+
+#include <map>
+#include <optional>
+#include <string>
+#include <string_view>
+
+namespace jet {
+
+class Engine {
+public:
+    // `pause` waits between two tries of a reading that a writer disturbed.
+    explicit Engine(share::FileSystemObject& files, ReadPause pause = sleepBriefly);
+    Engine(const Engine&) = delete;
+    Engine& operator=(const Engine&) = delete;
+
+    // Opens the database, calls `read` with it and answers its result if nobody wrote meanwhile. Everything
+    // that may come of a half-written page, errors and results, is tried again a bounded number of times;
+    // the last try's error is believed. The database is closed on return.
+    template <typename Read>
+    auto readDatabase(std::string_view path, Read&& read);
+
+    // What is remembered about a table, to be handed to Database; empty at first. Valid until the next call.
+    CatalogHint& hint(std::string_view path, std::string_view table);
+
+    share::FileSystemObject& files() noexcept { return m_files; }
+    static void sleepBriefly(int attempt);
+
+private:
+    template <typename Read>
+    static auto tryOnce(Database& database, Read& read, bool isLast)
+        -> std::optional<decltype(read(database))>;
+
+    share::FileSystemObject& m_files;
+    ReadPause m_pause;
+    std::map<std::string, CatalogHint, std::less<>> m_hints;
+};
+
+template <typename Read>
+auto Engine::readDatabase(std::string_view path, Read&& read) {
+    for (int attempt = 1;; ++attempt) {
+        {
+            Database database(m_files.openFile(path, share::OpenMode::Read));
+            const bool isLast = attempt == kMaxReadTries;
+            if (auto result = tryOnce(database, read, isLast))
+                return std::move(*result);
+            if (isLast)
+                failBusy(database.file());
+        }
+        m_pause(attempt);
+    }
+}
+
+// Nothing when what was read may be torn.
+template <typename Read>
+auto Engine::tryOnce(Database& database, Read& read, bool isLast) -> std::optional<decltype(read(database))> {
+    const ReadGuard guard(database.file(), database.header().commitWords);
+    if (guard.isBlocked())
+        return std::nullopt;
+    try {
+        auto result = read(database);
+        if (guard.holds())
+            return result;
+    } catch (const basic::RuntimeError& error) {
+        if (isLast || (error.number() != basic::kProviderFailure && guard.holds()))
+            throw;
+    }
+    return std::nullopt;
+}
+
+} // namespace jet

@@ -1,0 +1,148 @@
+// SPDX-FileCopyrightText: 2026 The qmClient authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "platform/jet/sql/TableRows.h"
+
+#include "platform/jet/TablePages.h"
+#include "platform/jet/UsageMap.h"
+#include "platform/jet/sql/Binder.h"
+#include "platform/jet/sql/FieldType.h"
+#include "platform/jet/sql/RowOrder.h"
+
+#include <algorithm>
+
+namespace jet::sql {
+namespace {
+
+constexpr int kFirstUnnamed = 1000; // the provider calls columns without a name Expr1000 and on
+
+std::int32_t typeOf(const Expression& expression) {
+    if (const auto* name = std::get_if<ColumnName>(&expression.node))
+        return fieldType(*name->column);
+    if (const auto* literal = std::get_if<Literal>(&expression.node))
+        return fieldType(literal->value);
+    const auto* operation = std::get_if<Operation>(&expression.node);
+    const bool isText = operation != nullptr && operation->kind == Operator::Concatenate;
+    return isText ? fieldtype::kText : fieldtype::kBoolean;
+}
+
+std::string nameOf(const SelectedExpression& item, std::size_t position) {
+    if (!item.alias.empty())
+        return item.alias;
+    if (const auto* name = std::get_if<ColumnName>(&item.expression->node))
+        return name->column->name;
+    return "Expr" + std::to_string(kFirstUnnamed + position);
+}
+
+} // namespace
+
+TableRows::Access::Access(std::unique_ptr<StatementPages> heldPages, const TableDefinition& definition,
+                          std::string_view tableName)
+    : pages(std::move(heldPages)), scan(*pages, definition, tableName), decoder(*pages), evaluator(decoder),
+      longValues(*pages) {}
+
+TableRows::TableRows(std::shared_ptr<Select> select, TableDefinition definition)
+    : RowSource({}), m_select(std::move(select)), m_definition(std::move(definition)) {
+    bind();
+}
+
+void TableRows::bind() {
+    const Binder binder(m_definition, m_select->table);
+    if (m_select->condition)
+        binder.bindCondition(*m_select->condition);
+    for (OrderColumn& column : m_select->order)
+        binder.bind(column.name);
+    for (SelectItem& item : m_select->items)
+        if (auto* selected = std::get_if<SelectedExpression>(&item))
+            binder.bind(*selected->expression);
+    std::vector<ResultColumn> columns;
+    for (const SelectItem& item : m_select->items)
+        addItem(item, columns);
+    setColumns(std::move(columns));
+}
+
+void TableRows::addItem(const SelectItem& item, std::vector<ResultColumn>& columns) {
+    if (std::holds_alternative<AllColumns>(item)) {
+        for (const Column& column : m_definition.columns) {
+            columns.push_back({column.name, fieldType(column)});
+            m_sources.push_back({&column, nullptr});
+            need(column);
+        }
+    } else if (const auto* selected = std::get_if<SelectedExpression>(&item)) {
+        columns.push_back({nameOf(*selected, columns.size()), typeOf(*selected->expression)});
+        m_sources.push_back({nullptr, selected->expression.get()});
+        needColumnsOf(*selected->expression);
+    }
+}
+
+void TableRows::needColumnsOf(const Expression& expression) {
+    if (const auto* name = std::get_if<ColumnName>(&expression.node))
+        need(*name->column);
+    else if (const auto* negation = std::get_if<Negation>(&expression.node))
+        needColumnsOf(*negation->operand);
+    else if (const auto* test = std::get_if<NullTest>(&expression.node))
+        needColumnsOf(*test->operand);
+    else if (const auto* operation = std::get_if<Operation>(&expression.node)) {
+        needColumnsOf(*operation->left);
+        needColumnsOf(*operation->right);
+    }
+}
+
+void TableRows::need(const Column& column) {
+    if (std::ranges::find(m_needed, &column) == m_needed.end())
+        m_needed.push_back(&column);
+}
+
+// Long values lie on pages of their own: all of them are read along only when all rows are asked for.
+std::vector<PageNumber> TableRows::pagesToRead(PageReader& reader) const {
+    const bool hasLongValues =
+        std::ranges::any_of(m_needed, [](const Column* column) { return column->isLongValue(); });
+    if (hasLongValues && m_select->condition == nullptr)
+        return tablePages(reader, m_definition, m_select->table);
+    return UsageMap::read(reader, m_definition.ownedMap, m_select->table).pagesWithinFile();
+}
+
+void TableRows::read(PageReader& reader) {
+    m_access.emplace(std::make_unique<StatementPages>(reader, pagesToRead(reader)), m_definition,
+                     m_select->table);
+    RowOrder order(m_select->order);
+    while (m_access->scan.next()) {
+        const RowView& row = m_access->scan.row();
+        if (m_select->condition && !m_access->evaluator.holds(*m_select->condition, row))
+            continue;
+        checkRow(row);
+        order.add(m_access->decoder, row);
+        m_rows.push_back(m_access->scan.position());
+    }
+    order.apply(m_rows);
+    m_access->pages->detach();
+}
+
+// Decodes what is cheap and finds what is not.
+void TableRows::checkRow(const RowView& row) {
+    for (const Column* column : m_needed) {
+        if (column->type == ColumnType::Text)
+            row.field(*column);
+        else if (!column->isLongValue())
+            m_access->decoder.value(row, *column);
+        else if (!row.isNull(*column))
+            m_access->longValues.read(row.field(*column), row.place());
+    }
+}
+
+basic::Variant TableRows::value(std::size_t row, std::size_t column) {
+    goTo(row);
+    const Source& source = m_sources[column];
+    const RowView& view = m_access->scan.row();
+    return source.column != nullptr ? m_access->decoder.value(view, *source.column)
+                                    : m_access->evaluator.value(*source.expression, view);
+}
+
+void TableRows::goTo(std::size_t row) {
+    if (m_currentRow == row)
+        return;
+    m_currentRow.reset();
+    m_access->scan.moveTo(m_rows[row]);
+    m_currentRow = row;
+}
+
+} // namespace jet::sql
