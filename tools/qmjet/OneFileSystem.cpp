@@ -1,0 +1,30 @@
+// SPDX-FileCopyrightText: 2026 The qmClient authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "tools/qmjet/OneFileSystem.h"
+
+#include "platform/basic/RuntimeError.h"
+#include "platform/share/LocalFile.h"
+
+namespace qmjet {
+
+bool OneFileSystem::FileExists(std::string_view) {
+    return true;
+}
+
+bool OneFileSystem::FolderExists(std::string_view) {
+    return false;
+}
+
+std::vector<std::string> OneFileSystem::SubFolders(std::string_view) {
+    return {};
+}
+
+void OneFileSystem::DeleteFile(std::string_view, bool) {
+    throw basic::RuntimeError(basic::kPermissionDenied);
+}
+
+std::unique_ptr<share::File> OneFileSystem::openFile(std::string_view, share::OpenMode mode) {
+    return share::LocalFile::open(m_path, mode);
+}
+
+} // namespace qmjet
