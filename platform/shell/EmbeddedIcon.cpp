@@ -4,8 +4,10 @@
 
 #include "platform/shell/NotifyIconData.h"
 
+#include <QApplication>
 #include <QCursor>
 #include <QMenu>
+#include <QMouseEvent>
 
 #include <algorithm>
 #include <limits>
@@ -27,6 +29,15 @@ QSystemTrayIcon::MessageIcon messageIcon(std::uint32_t iconFlags) {
     }
 }
 
+// The windows of Qt's embedded icons carry no other mark than their class.
+QWidgetList embeddedWindows() {
+    QWidgetList found;
+    for (QWidget* widget : QApplication::topLevelWidgets())
+        if (widget->inherits("QSystemTrayIconSys"))
+            found.append(widget);
+    return found;
+}
+
 } // namespace
 
 EmbeddedIcon::EmbeddedIcon(const TrayIconFace& face, Listener listener)
@@ -41,7 +52,40 @@ EmbeddedIcon::EmbeddedIcon(const TrayIconFace& face, Listener listener)
 
 void EmbeddedIcon::setIcon(const QIcon& icon) {
     m_icon.setIcon(icon);
+    if (m_icon.isVisible() != icon.isNull())
+        return;
+    const QWidgetList others = embeddedWindows();
     m_icon.setVisible(!icon.isNull());
+    for (QWidget* window : embeddedWindows())
+        if (!others.contains(window))
+            watchWindow(*window);
+}
+
+void EmbeddedIcon::watchWindow(QWidget& window) {
+    m_window = &window;
+    window.setMouseTracking(true);
+    window.installEventFilter(this);
+}
+
+bool EmbeddedIcon::eventFilter(QObject* watched, QEvent* event) {
+    const auto type = event->type();
+    if (type == QEvent::MouseMove)
+        m_listener(kMouseMove);
+    else if (type == QEvent::MouseButtonPress || type == QEvent::MouseButtonRelease ||
+             type == QEvent::MouseButtonDblClick)
+        buttonUsed(type, static_cast<const QMouseEvent*>(event)->button());
+    return QObject::eventFilter(watched, event);
+}
+
+void EmbeddedIcon::buttonUsed(QEvent::Type type, Qt::MouseButton button) {
+    const bool isRelease = type == QEvent::MouseButtonRelease;
+    const bool isDoubleClick = type == QEvent::MouseButtonDblClick;
+    if (button == Qt::LeftButton) {
+        m_listener(isRelease ? kLeftButtonUp : isDoubleClick ? kLeftDoubleClick : kLeftButtonDown);
+    } else if (button == Qt::RightButton && !isRelease) {
+        m_listener(isDoubleClick ? kRightDoubleClick : kRightButtonDown);
+        m_listener(kRightButtonUp);
+    }
 }
 
 void EmbeddedIcon::setTip(const QString& tip) {
@@ -65,6 +109,8 @@ void EmbeddedIcon::popUpMenu() {
 }
 
 void EmbeddedIcon::activated(QSystemTrayIcon::ActivationReason reason) {
+    if (m_window)
+        return; // its events have said it already
     switch (reason) {
     case QSystemTrayIcon::Trigger:
         m_listener(kLeftButtonDown);

@@ -8,7 +8,7 @@
 // back as messages posted to the record's window (number uCallbackMessage, wParam uID, lParam the code),
 // never from inside a call:
 //   StatusNotifier  activation: 513, 514, 515; its exported menu opens: 516, 517
-//   XEmbed          left click: 513, 514; double click: 515, 514 behind the click; right click: 516, 517
+//   XEmbed          512 to 515 and 518 as they come; a right press is 516 and 517 at once
 // User-interface thread.
 
 #include "platform/shell/NotifyIconData.h"
