@@ -5,9 +5,15 @@
 namespace tray {
 namespace {
 
+// A separator has no text of its own: styles would draw it.
 void setCaption(QAction& element, const QString& caption) {
-    element.setText(caption);
-    element.setSeparator(caption == u"-");
+    const bool isSeparator = caption == u"-";
+    element.setSeparator(isSeparator);
+    element.setText(isSeparator ? QString() : caption);
+}
+
+QString captionOf(const QAction& element) {
+    return element.isSeparator() ? u"-"_qs : element.text();
 }
 
 QString keyOf(const QAction& element) {
@@ -56,7 +62,7 @@ void TrayMenu::remove(std::int16_t index) {
     }
     for (std::int16_t later = index; later < upperBound(); ++later) {
         const QAction& source = *element(static_cast<std::int16_t>(later + 1));
-        setCaption(*element(later), source.text());
+        setCaption(*element(later), captionOf(source));
         element(later)->setData(source.data());
     }
     element(upperBound())->deleteLater(); // it may be the item being clicked

@@ -66,6 +66,8 @@ void frmAlert::layOut() {
     m_Shape1->setFrameShape(QFrame::StyledPanel);
     m_Image1->setFixedSize(kPictureSize, kPictureSize);
     auto* box = new QGridLayout(m_Shape1);
+    box->setContentsMargins(14, 8, 8, 8);
+    box->setHorizontalSpacing(12);
     box->addWidget(m_Image1, 0, 0, 2, 1, Qt::AlignCenter);
     box->addWidget(m_lblInfo, 0, 1, Qt::AlignVCenter);
     box->addWidget(m_Label1, 0, 2, Qt::AlignTop | Qt::AlignRight);

@@ -49,8 +49,7 @@ class EmbeddingTest(unittest.TestCase):
         with Desktop(tray='trayer') as desktop:
             program = TrayProgram(desktop)
             wait_icons(desktop)
-            program.send('quit')
-            self.assertEqual(program.program.wait(5), 0)
+            self.assertEqual(program.quit(), 0)
             wait_icons(desktop, 0)
 
     def test_a_left_click_says_down_once(self):

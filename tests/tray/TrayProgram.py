@@ -28,6 +28,10 @@ class TrayProgram:
         self._commands.write_text(line + '\n')
         wait_until(lambda: self.lines().count(done) > before, f'{line!r} to be carried out')
 
+    def quit(self):
+        self._commands.write_text('quit\n')
+        return self.program.wait(5)
+
     def lines(self):
         if not self.program.alive:
             raise AssertionError(f'the program has ended: {self.program.errors()[-2000:]}')
