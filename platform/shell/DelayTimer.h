@@ -28,6 +28,7 @@ public:
     void start(std::chrono::milliseconds delay, std::function<void()> call) override {
         stop();
         m_timer.setSingleShot(true);
+        m_timer.setTimerType(Qt::PreciseTimer); // a coarse one may be early
         QObject::connect(&m_timer, &QTimer::timeout, &m_timer, std::move(call));
         m_timer.start(delay);
     }

@@ -166,7 +166,7 @@ class NoAreaTest(unittest.TestCase):
             started = time.monotonic()
             program = TrayProgram(desktop)
             wait_until(lambda: 'missing' in program.events(), 'word of the missing area', 25)
-            self.assertGreaterEqual(time.monotonic() - started, 14.5)
+            self.assertGreaterEqual(time.monotonic() - started, 15)
 
 
 if __name__ == '__main__':
