@@ -1,0 +1,20 @@
+// SPDX-FileCopyrightText: 2026 The qmClient authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+// The mailbox databases as the client uses them: the statements exactly as they are sent, and the columns it
+// reads by name. Everything else about these tables is the server's.
+
+namespace data {
+
+inline constexpr const char* kAllCalls =
+    "SELECT *, MessageLength & 's' AS MessageLengthS FROM CallLog ORDER BY ID DESC";
+inline constexpr const char* kCountCalls = "SELECT COUNT(*) FROM CallLog";
+
+inline constexpr const char* kCallID = "CallID";
+inline constexpr const char* kCallDate = "CallDate";
+inline constexpr const char* kCallerID = "CallerID";
+inline constexpr const char* kCallerName = "CallerName";
+inline constexpr const char* kMessageLength = "MessageLength";
+inline constexpr const char* kMessageLengthS = "MessageLengthS";
+
+} // namespace data
