@@ -9,6 +9,7 @@
 #include <QObject>
 #include <QPointer>
 #include <QString>
+#include <QWidget>
 
 #include <string>
 #include <string_view>
@@ -16,7 +17,6 @@
 class QAction;
 class QIcon;
 class QKeySequence;
-class QWidget;
 
 namespace forms {
 
