@@ -1,0 +1,100 @@
+// SPDX-FileCopyrightText: 2026 The qmClient authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "app/CallList.h"
+
+#include "app/StatusLine.h"
+#include "data/CallLog.h"
+#include "platform/forms/Events.h"
+#include "platform/forms/ListViewMessages.h"
+#include "resources/StringTable.h"
+
+#include <utility>
+
+namespace app {
+namespace {
+
+using resources::LoadLocalString;
+
+constexpr std::intptr_t kAllBits = -1; // of which the mask lets one through
+
+std::vector<data::ColumnDescription> columnTable() {
+    return {{"", "", {70}, 0},
+            {LoadLocalString(3694, "Date"), data::kCallDate, {1700}, 1},
+            {LoadLocalString(3695, "Caller ID"), data::kCallerID, {900}, 1},
+            {LoadLocalString(3696, "Caller Name"), data::kCallerName, {1000}, 1},
+            {LoadLocalString(3689, "Message"), data::kMessageLengthS, {600}, 1}};
+}
+
+} // namespace
+
+void CallList::LoadList() {
+    m_askedAgain = true;
+    if (m_running)
+        return;
+    m_running = true;
+    while (std::exchange(m_askedAgain, false) && m_parts.state.config)
+        loadOnce();
+    m_running = false;
+}
+
+void CallList::loadOnce() {
+    errors::Procedure proc{m_parts.errorHandler, "frmMain", "LoadList"};
+    const auto config = m_parts.state.config;
+    if (config->Mailboxes.Count() == 0) {
+        showNoMailboxes(proc);
+        return;
+    }
+    std::vector<data::ColumnDescription> columns;
+    proc.step([&] { columns = columnTable(); });
+    proc.step([&] { m_parts.list.ListItems().Clear(); });
+    std::shared_ptr<data::clsMailbox> mailbox;
+    proc.step([&] { mailbox = chosenMailbox(); });
+    if (mailbox)
+        loadMailbox(proc, *mailbox, columns);
+    m_parts.state.listConnection.reset();
+    proc.step([] { forms::doEvents(); });
+    proc.step([&] { m_parts.main.ChangeItem(); });
+    proc.step([&] { m_parts.main.UpdateButtonStates(); });
+    proc.finish([&] { m_parts.state.listConnection.reset(); });
+}
+
+void CallList::showNoMailboxes(errors::Procedure& proc) {
+    proc.step([&] { beginStatusLine(m_parts.list); });
+    proc.step([&] {
+        addStatusLine(m_parts.list, LoadLocalString(3772, "There are currently no mailboxes configured."));
+    });
+}
+
+void CallList::loadMailbox(errors::Procedure& proc, const data::clsMailbox& mailbox,
+                           const std::vector<data::ColumnDescription>& columns) {
+    auto& connection = m_parts.state.listConnection;
+    proc.step([&] { connection = m_parts.common.GetMBXCon(mailbox.ID, *m_parts.state.config); });
+    if (!connection)
+        return;
+    std::shared_ptr<jet::Recordset> records;
+    proc.step([&] { records = connection->Execute(data::kAllCalls); });
+    if (!records)
+        return;
+    proc.step([&] {
+        const auto selected = m_parts.list.SelectedItem();
+        m_parts.fillList(m_parts.list, *records, columns, true,
+                         selected ? selected->Key() : std::string_view());
+    });
+    proc.step([&] {
+        m_parts.list.sendMessage(forms::LVM_SETEXTENDEDLISTVIEWSTYLE, forms::LVS_EX_FULLROWSELECT, kAllBits);
+    });
+    const int count = proc.value(0, [&] { return m_parts.list.ListItems().Count(); });
+    for (int index = 1; index <= count && proc.running(); ++index)
+        proc.step([&] { m_parts.list.ListItems().Item(index).SetGhosted(false); });
+}
+
+// None while several mailboxes have tabs and no tab is selected.
+std::shared_ptr<data::clsMailbox> CallList::chosenMailbox() const {
+    const auto& mailboxes = m_parts.state.config->Mailboxes;
+    if (m_parts.tabStrip.Tabs().Count() < 2)
+        return mailboxes.at(1);
+    const auto tab = m_parts.tabStrip.SelectedItem();
+    return tab ? mailboxes.at(tab->Key) : nullptr;
+}
+
+} // namespace app

@@ -1,0 +1,88 @@
+// SPDX-FileCopyrightText: 2026 The qmClient authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "app/MailboxData.h"
+
+#include "app/StatusLine.h"
+#include "platform/basic/RuntimeError.h"
+#include "resources/StringTable.h"
+
+#include <string>
+
+namespace app {
+namespace {
+
+using resources::LoadLocalString;
+
+constexpr int kMailboxImage = 1;
+
+std::int32_t inMilliseconds(std::int32_t seconds) {
+    std::int32_t result = 0;
+    if (__builtin_mul_overflow(seconds, 1000, &result))
+        throw basic::RuntimeError(basic::kOverflow);
+    return result;
+}
+
+} // namespace
+
+void MailboxData::InitData() {
+    errors::Procedure proc{m_parts.errorHandler, "frmMain", "InitData"};
+    MainState& state = m_parts.state;
+    ++state.generation;
+    proc.step([&] { m_parts.timer.SetInterval(inMilliseconds(state.config->PollInterval)); });
+    clear(proc);
+    state.nobodyAnswered = false;
+    state.notConnected = !proc.value(false, [&] { return m_parts.main.InitConnection(); });
+    if (!state.notConnected)
+        showMailboxes(proc);
+    else
+        proc.step([&] {
+            addStatusLine(m_parts.list,
+                          LoadLocalString(3685, "A connection to the server could not be established."));
+        });
+}
+
+void MailboxData::clear(errors::Procedure& proc) {
+    proc.step([&] { m_parts.tabStrip.Tabs().Clear(); });
+    proc.step([&] { m_parts.list.ListItems().Clear(); });
+    proc.step([&] { m_parts.state.currentConnection.reset(); });
+    proc.step([&] { beginStatusLine(m_parts.list); });
+}
+
+void MailboxData::showMailboxes(errors::Procedure& proc) {
+    MainState& state = m_parts.state;
+    proc.step([&] { addStatusLine(m_parts.list, LoadLocalString(3771, "Loading, please wait...")); });
+    addTabs(proc);
+    proc.step([&] { m_parts.main.layOut(); });
+    proc.step([&] { state.redock = state.firstPoll = true; });
+    const std::uint32_t generation = state.generation;
+    proc.step([&] { m_parts.main.LoadList(); });
+    if (state.generation != generation)
+        return; // the list let events run and everything was built anew, or the window is gone
+    proc.step([&] { m_parts.main.UpdateButtonStates(); });
+    proc.step([&] { state.newCallTotal = 0; });
+    proc.step([&] {
+        for (const auto& mailbox : state.config->Mailboxes)
+            mailbox->NewCallCount = 0;
+    });
+    proc.step([&] { m_parts.main.mTimer_ThatTime(); });
+}
+
+void MailboxData::addTabs(errors::Procedure& proc) {
+    forms::TabCollection& tabs = m_parts.tabStrip.Tabs();
+    for (const auto& mailbox : m_parts.state.config->Mailboxes)
+        proc.step([&] { tabs.Add("KEY" + std::to_string(mailbox->ID), mailbox->Name, kMailboxImage); });
+    // A single mailbox is shown without tabs: no tabs is how everybody recognises that case.
+    if (proc.value(false, [&] { return tabs.Count() == 1; }))
+        proc.step([&] { tabs.Clear(); });
+}
+
+bool MailboxData::InitConnection() {
+    errors::Procedure proc{m_parts.errorHandler, "frmMain", "InitConnection"};
+    std::string server;
+    proc.step([&] { server = m_parts.state.config->ServerName; });
+    if (server.empty())
+        return false;
+    return proc.value(false, [&] { return m_parts.files.FolderExists(m_parts.common.GetQMPath(server)); });
+}
+
+} // namespace app

@@ -1,0 +1,55 @@
+// SPDX-FileCopyrightText: 2026 The qmClient authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+// The poll: counts every watched mailbox's calls, adds what is new to the totals, refreshes the list where it
+// can and announces the total. One poll at a time: one that is asked for while another runs (its list refresh
+// lets events run) starts right after. Also carries out the deferred exit and puts the player back. Failures
+// are reported as frmMain's mTimer_ThatTime. What it is given must outlive it; user-interface thread.
+
+#include "app/MainProcedures.h"
+#include "app/MainState.h"
+#include "data/basCommon.h"
+#include "errors/Procedure.h"
+#include "platform/forms/TabStrip.h"
+#include "platform/forms/Timer.h"
+
+#include <cstdint>
+#include <functional>
+#include <memory>
+#include <optional>
+
+namespace app {
+
+class Poll {
+public:
+    struct Parts {
+        errors::ErrorHandler& errorHandler;
+        data::basCommon& common;
+        forms::TabStrip& tabStrip;
+        forms::Timer& timer;
+        MainState& state;
+        MainProcedures& main;
+        std::function<void(std::int32_t newCalls)> announce; // shows the popup with this number
+    };
+
+    explicit Poll(Parts parts);
+
+    void mTimer_ThatTime();
+
+private:
+    void exitNow();
+    void pollOnce();
+    void countAll(errors::Procedure& proc, std::uint32_t generation);
+    bool countMailbox(errors::Procedure& proc, data::clsMailbox& mailbox);
+    void countGrown(errors::Procedure& proc, data::clsMailbox& mailbox, std::int32_t current);
+    void refreshList(errors::Procedure& proc, const data::clsMailbox& mailbox);
+    void concludePoll(errors::Procedure& proc);
+    bool connectedAgain();
+    bool anyMailboxAvailable();
+
+    Parts m_parts;
+    bool m_running = false;
+    bool m_askedAgain = false;
+};
+
+} // namespace app

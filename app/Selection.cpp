@@ -1,0 +1,51 @@
+// SPDX-FileCopyrightText: 2026 The qmClient authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "app/Selection.h"
+
+#include "platform/basic/Conversion.h"
+
+#include <algorithm>
+#include <optional>
+
+namespace app {
+namespace {
+
+constexpr std::size_t kTabKeyPrefix = 3;  // "KEY"
+constexpr std::size_t kItemKeyPrefix = 1; // "K"
+
+// A status line has no key: what is left of it is the empty text.
+std::string_view withoutPrefix(std::string_view key, std::size_t length) {
+    return key.substr(std::min(length, key.size()));
+}
+
+} // namespace
+
+void Selection::ChangeItem() {
+    errors::Procedure proc{m_parts.errorHandler, "frmMain", "ChangeItem"};
+    std::string callID = "-1";
+    const auto config = m_parts.state.config;
+    const auto item = m_parts.list.SelectedItem();
+    if (config && config->Mailboxes.Count() > 0 && item) {
+        const auto tab = m_parts.tabStrip.SelectedItem();
+        const bool oneMailbox = m_parts.tabStrip.Tabs().Count() < 2;
+        if (tab || oneMailbox) {
+            proc.step([&] { callID = withoutPrefix(item->Key(), kItemKeyPrefix); });
+            std::optional<std::int32_t> mailboxID;
+            proc.step([&] {
+                mailboxID =
+                    tab ? basic::CLng(withoutPrefix(tab->Key, kTabKeyPrefix)) : config->Mailboxes.at(1)->ID;
+            });
+            if (mailboxID && !m_parts.state.currentConnection)
+                openMailbox(proc, *mailboxID);
+        }
+    }
+    proc.step([&] { m_parts.itemChanged(m_parts.state.currentConnection, callID); });
+}
+
+void Selection::openMailbox(errors::Procedure& proc, std::int32_t mailboxID) {
+    proc.step([&] {
+        m_parts.state.currentConnection = m_parts.common.GetMBXCon(mailboxID, *m_parts.state.config);
+    });
+}
+
+} // namespace app

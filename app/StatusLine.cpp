@@ -1,0 +1,25 @@
+// SPDX-FileCopyrightText: 2026 The qmClient authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "app/StatusLine.h"
+
+#include "platform/basic/Twips.h"
+
+namespace app {
+namespace {
+
+constexpr basic::Twips kWidth{4000};
+
+} // namespace
+
+void beginStatusLine(forms::ListView& list) {
+    list.ColumnHeaders().Clear();
+    list.SetHideColumnHeaders(true);
+    list.ColumnHeaders().Add({}, kWidth);
+    list.ListItems().Clear();
+}
+
+void addStatusLine(forms::ListView& list, std::string_view text) {
+    list.ListItems().Add({}, text);
+}
+
+} // namespace app
