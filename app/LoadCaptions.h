@@ -1,0 +1,14 @@
+// SPDX-FileCopyrightText: 2026 The qmClient authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+// Sets the window's caption and every localised text of the command bar, once, while the window loads.
+
+#include "platform/forms/CommandBar.h"
+
+#include <QWidget>
+
+namespace app {
+
+void LoadCaptions(QWidget& window, forms::CommandBar& ab);
+
+} // namespace app

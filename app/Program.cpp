@@ -1,0 +1,78 @@
+// SPDX-FileCopyrightText: 2026 The qmClient authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "app/Program.h"
+
+#include "data/ShareMappings.h"
+#include "errors/EventDoor.h"
+#include "platform/forms/Text.h"
+#include "platform/forms/UserLocale.h"
+#include "platform/jet/Connection.h"
+#include "platform/share/MountTable.h"
+#include "resources/ProductData.h"
+#include "resources/StringTable.h"
+
+#include <QApplication>
+#include <QDBusConnection>
+#include <QSessionManager>
+
+#include <utility>
+
+namespace app {
+namespace {
+
+QString text(std::int32_t id, std::string_view english) {
+    return forms::toQString(resources::LoadLocalString(id, english));
+}
+
+std::string executable() {
+    return forms::fromQString(QCoreApplication::applicationFilePath());
+}
+
+errors::ErrorLog errorLog() {
+    return {errors::baseNameOf(executable()) + ".log", errors::stateFolder()};
+}
+
+forms::MessageBoxButtonTexts buttonTexts() {
+    return {text(5000, "OK"), text(5001, "Cancel"), text(5002, "Yes"), text(5003, "No")};
+}
+
+} // namespace
+
+Program::Program(SingleInstance& instance)
+    : m_dateTimeFormat(forms::userDateTimeFormat()), m_facts(errors::programFacts(executable())),
+      m_errorHandler(
+          errorLog(), m_clock,
+          [this] { return std::make_unique<errors::frmError>(m_facts, m_errorDialogState, nullptr); }),
+      m_messageBoxes(buttonTexts(), forms::toQString(resources::kProductTitle)),
+      m_registry(registry::pathsFromEnvironment(), m_systemCalls),
+      m_files(share::ShareResolver(data::ShareMappings(m_registry), share::MountTable::systemText)),
+      m_engine(m_files),
+      m_common(m_errorHandler, m_files, [this] { return std::make_shared<jet::Connection>(m_engine); }),
+      m_trayHosts(QDBusConnection::sessionBus()), m_notificationArea(m_windows, m_icons, m_trayHosts),
+      m_areaWatch(m_trayHosts, m_patience),
+      m_main({m_errorHandler, m_files, m_common, m_clipboard, m_desktop,
+              tray::TrayServices{m_notificationArea, m_windows, m_icons}, m_dateTimeFormat, [this] {
+                  return std::make_shared<data::clsConfig>(m_registry, m_messageBoxes, m_errorHandler);
+              }}) {
+    connectEvents(instance);
+}
+
+void Program::connectEvents(SingleInstance& instance) {
+    const errors::EventDoor door{m_errorHandler};
+    QObject::connect(&m_main, &frmMain::unloaded, qApp, &QCoreApplication::quit, Qt::QueuedConnection);
+    QObject::connect(&instance, &SingleInstance::activated, &m_main,
+                     [this, door] { door.run("frmMain", "Activate", [this] { m_main.showWindow(); }); });
+    QObject::connect(&m_areaWatch, &shell::NotificationAreaWatch::missing, &m_main, [this, door] {
+        door.run("frmMain", "NotificationAreaMissing", [this] { m_main.notificationAreaMissing(); });
+    });
+    const auto endSession = [this] { m_main.unload(UnloadMode::SessionEnd); };
+    QObject::connect(&m_signals, &TerminationSignals::received, &m_main, endSession);
+    QObject::connect(qApp, &QGuiApplication::commitDataRequest, &m_main, endSession);
+}
+
+int Program::run() {
+    m_main.Form_Load();
+    return QCoreApplication::exec();
+}
+
+} // namespace app

@@ -1,0 +1,64 @@
+// SPDX-FileCopyrightText: 2026 The qmClient authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+// The composition root: builds the services from what the workstation offers, hands them to the main window
+// and runs the event loop. What is declared first is needed by what follows and outlives it. One object, on
+// the user-interface thread, gone before the application object.
+
+#include "app/SingleInstance.h"
+#include "app/TerminationSignals.h"
+#include "app/frmMain.h"
+#include "data/basCommon.h"
+#include "errors/basErrHandling.h"
+#include "errors/frmError.h"
+#include "platform/basic/DateTimeFormat.h"
+#include "platform/basic/SystemClock.h"
+#include "platform/forms/QtClipboard.h"
+#include "platform/forms/QtMessageBoxes.h"
+#include "platform/jet/Engine.h"
+#include "platform/registry/Registry.h"
+#include "platform/share/LocalFileSystemObject.h"
+#include "platform/shell/DelayTimer.h"
+#include "platform/shell/DesktopNotificationArea.h"
+#include "platform/shell/DesktopTrayHosts.h"
+#include "platform/shell/NotificationAreaWatch.h"
+#include "platform/shell/WorkstationWindows.h"
+
+namespace app {
+
+class Program {
+public:
+    explicit Program(SingleInstance& instance);
+    Program(const Program&) = delete;
+    Program& operator=(const Program&) = delete;
+
+    // Loads the main window and returns the process's exit code when the program is to end.
+    int run();
+
+private:
+    void connectEvents(SingleInstance& instance);
+
+    basic::SystemClock m_clock;
+    basic::DateTimeFormat m_dateTimeFormat;
+    errors::ProgramFacts m_facts;
+    errors::ErrorDialogState m_errorDialogState;
+    errors::basErrHandling m_errorHandler;
+    forms::QtMessageBoxes m_messageBoxes;
+    forms::QtClipboard m_clipboard;
+    registry::SystemCalls m_systemCalls;
+    registry::Registry m_registry;
+    share::LocalFileSystemObject m_files;
+    jet::Engine m_engine;
+    data::basCommon m_common;
+    shell::WindowTable m_windows;
+    shell::IconTable m_icons;
+    shell::DesktopTrayHosts m_trayHosts;
+    shell::DesktopNotificationArea m_notificationArea;
+    shell::EventLoopTimer m_patience;
+    shell::NotificationAreaWatch m_areaWatch;
+    shell::WorkstationWindows m_desktop;
+    TerminationSignals m_signals;
+    frmMain m_main;
+};
+
+} // namespace app

@@ -1,0 +1,69 @@
+// SPDX-FileCopyrightText: 2026 The qmClient authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "app/TrayEvents.h"
+
+#include "errors/Procedure.h"
+#include "platform/forms/Text.h"
+#include "resources/StringTable.h"
+
+namespace app {
+namespace {
+
+constexpr int kRightButton = 2;
+constexpr int kExitDelayMs = 200;
+
+QString text(std::int32_t id, std::string_view english) {
+    return forms::toQString(resources::LoadLocalString(id, english));
+}
+
+// Clicks on the icon never bother the user with a failure.
+template <typename Action>
+void withErrorsIgnored(Action&& action) {
+    try {
+        action();
+    } catch (const std::exception&) { // NOLINT(bugprone-empty-catch): stated so for these handlers
+    }
+}
+
+} // namespace
+
+void TrayEvents::attach(tray::frmSysTray& icon) {
+    icon.AddMenuItem(text(3683, "&View Call Log"), QStringLiteral("open"), true);
+    icon.AddMenuItem(text(3684, "&Settings"), QStringLiteral("config"), false);
+    icon.AddMenuItem(QStringLiteral("-"), QString(), false);
+    icon.AddMenuItem(text(121, "About Quillamar"), QStringLiteral("about"), false);
+    icon.AddMenuItem(text(3770, "Close Quillamar Client"), QStringLiteral("close"), false);
+
+    connect(&icon, &tray::frmSysTray::MenuClick, this,
+            [this](int, const QString& key) { MenuClick(forms::fromQString(key)); });
+    connect(&icon, &tray::frmSysTray::SysTrayDoubleClick, this,
+            [this] { withErrorsIgnored([this] { m_parts.main.showWindow(); }); });
+    connect(&icon, &tray::frmSysTray::SysTrayMouseDown, this, [&icon](int button) {
+        if (button == kRightButton)
+            withErrorsIgnored([&icon] { icon.ShowMenu(); });
+    });
+}
+
+void TrayEvents::MenuClick(std::string_view key) {
+    errors::Procedure proc{m_parts.errorHandler, "frmMain", "m_frmSysTray_MenuClick"};
+    if (key == "open")
+        proc.step([&] { m_parts.main.showWindow(); });
+    else if (key == "config")
+        proc.step([&] { m_parts.main.ab_ToolClick("miVOptions"); });
+    else if (key == "about")
+        proc.step([&] { m_parts.main.ab_ToolClick("miHAbout"); });
+    else if (key == "close")
+        proc.step([&] { requestExit(); });
+}
+
+// The window is not unloaded from inside the menu's handler: the next tick does it. A dialog that a tick
+// waits for is answered at once, since no other tick comes before that one has ended.
+void TrayEvents::requestExit() {
+    m_parts.state.exitRequested = true;
+    m_parts.timer.SetEnabled(false);
+    m_parts.timer.SetInterval(kExitDelayMs);
+    m_parts.timer.SetEnabled(true);
+    m_parts.main.answerModalDialog();
+}
+
+} // namespace app

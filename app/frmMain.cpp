@@ -1,0 +1,237 @@
+// SPDX-FileCopyrightText: 2026 The qmClient authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "app/frmMain.h"
+
+#include "app/CommandBarLayout.h"
+#include "app/LoadCaptions.h"
+#include "data/ListToClipBoard.h"
+#include "errors/Procedure.h"
+#include "platform/forms/ListViewMessages.h"
+#include "platform/forms/ModalState.h"
+#include "platform/forms/Text.h"
+#include "resources/Icons.h"
+#include "resources/StringTable.h"
+
+#include <QApplication>
+#include <QCloseEvent>
+#include <QEvent>
+#include <QLabel>
+
+#include <utility>
+
+namespace app {
+namespace {
+
+constexpr QSize kFirstSize{640, 420};
+constexpr std::intptr_t kAllBits = -1;
+
+QString text(std::int32_t id, std::string_view english) {
+    return forms::toQString(resources::LoadLocalString(id, english));
+}
+
+forms::ImageList listImages() {
+    forms::ImageList images;
+    images.Set(resources::kCallWithMessage, resources::callIcon(resources::kCallWithMessage),
+               text(5014, "Message recorded"));
+    images.Set(resources::kCallWithoutMessage, resources::callIcon(resources::kCallWithoutMessage),
+               text(5015, "No message"));
+    return images;
+}
+
+forms::ImageList tabImages() {
+    forms::ImageList images;
+    images.Set(resources::kMailboxImage, resources::mailboxIcon(resources::kMailboxImage));
+    return images;
+}
+
+} // namespace
+
+frmMain::frmMain(const MainServices& services)
+    : m_services(services), m_ab(*this), m_TabStrip(this), m_lsCalls(&m_TabStrip),
+      m_selection(
+          {services.errorHandler, services.common, m_lsCalls, m_TabStrip, m_state,
+           [this](const auto& connection, const auto& callID) { Q_EMIT ItemChanged(connection, callID); }}),
+      m_buttonStates({services.errorHandler, m_ab, m_lsCalls, [] { return PlaybackState{}; }}),
+      m_callList({services.errorHandler,
+                  services.common,
+                  {services.errorHandler, services.dateTimeFormat},
+                  m_lsCalls,
+                  m_TabStrip,
+                  m_state,
+                  *this}),
+      m_poll({services.errorHandler, services.common, m_TabStrip, m_mTimer, m_state, *this,
+              [this](std::int32_t newCalls) { announce(newCalls); }}),
+      m_mailboxData({services.errorHandler, services.common, services.files, m_lsCalls, m_TabStrip, m_mTimer,
+                     m_state, *this}),
+      m_commands(services.errorHandler), m_trayEvents({services.errorHandler, m_mTimer, m_state, *this}),
+      m_listEvents({services.errorHandler, m_lsCalls, m_TabStrip, m_ab, m_state, *this}),
+      m_messages(services.errorHandler, m_lsCalls, m_TabStrip) {
+    setObjectName(QStringLiteral("frmMain"));
+    m_TabStrip.setObjectName(QStringLiteral("TabStrip"));
+    m_lsCalls.setObjectName(QStringLiteral("lsCalls"));
+    setWindowIcon(resources::programIcon());
+    m_lsCalls.SetSmallIcons(listImages());
+    m_TabStrip.SetImages(tabImages());
+    m_lsCalls.SetAccessibleName(text(5010, "Call list"));
+    m_TabStrip.SetAccessibleName(text(5011, "Mailboxes"));
+    m_lsCalls.SetMultiSelect(true);
+    resize(kFirstSize);
+    layOutCommandBar(m_ab);
+    addCommands();
+    m_messages.attach();
+    connect(&m_mTimer, &forms::Timer::ThatTime, this, [this] { mTimer_ThatTime(); });
+}
+
+frmMain::~frmMain() = default;
+
+void frmMain::addCommands() {
+    connect(&m_ab, &forms::CommandBar::ToolClick, this,
+            [this](forms::Tool& tool) { ab_ToolClick(tool.Name()); });
+    m_commands.add("miFExit", [this] { unload(); });
+    m_commands.add("miFHide", [this] { hideWindow(); });
+    m_commands.add("miECopy", [this] {
+        data::ListToClipBoard(m_services.errorHandler, m_lsCalls, m_services.clipboard);
+    });
+    m_commands.add("miESelectAll", [this] { selectAll(); });
+}
+
+void frmMain::Form_Load() {
+    errors::Procedure proc{m_services.errorHandler, "frmMain", "Form_Load"};
+    proc.step([&] { LoadCaptions(*this, m_ab); });
+    proc.step([&] { setWindowTitle(text(3682, "Quillamar Calls")); });
+    proc.step([&] { dockPlayer(); });
+    proc.step([&] { m_ab.SetClientAreaControl(&m_TabStrip); });
+    proc.step([&] { m_TabStrip.Tabs().Clear(); });
+    proc.step([&] {
+        m_lsCalls.sendMessage(forms::LVM_SETEXTENDEDLISTVIEWSTYLE, forms::LVS_EX_FULLROWSELECT, kAllBits);
+    });
+    proc.step([&] { loadTrayIcon(); });
+    proc.step([&] { hide(); });
+    proc.step([&] { m_state.config = m_services.newConfig(); });
+    proc.step([&] { m_state.config->LoadConfig(); });
+    proc.step([&] { loadDialogs(); });
+    proc.step([&] { InitData(); });
+}
+
+void frmMain::loadTrayIcon() {
+    m_frmSysTray =
+        std::make_unique<tray::frmSysTray>(m_services.tray, text(5004, "Quillamar Client"), windowIcon());
+    m_frmSysTray->Load();
+    m_trayEvents.attach(*m_frmSysTray);
+    m_frmSysTray->setToolTip(QStringLiteral("Quillamar"));
+    m_frmSysTray->setIconHandle(m_services.tray.icons.add(resources::trayIcon()));
+}
+
+void frmMain::loadDialogs() {
+    m_AlertForm = std::make_unique<tray::frmAlert>(m_services.errorHandler, m_services.desktop);
+    connect(m_AlertForm.get(), &tray::frmAlert::Show, this,
+            [this](bool& showList) { AlertForm_Show(showList); });
+}
+
+void frmMain::AlertForm_Show(bool showList) {
+    errors::Procedure proc{m_services.errorHandler, "frmMain", "AlertForm_Show"};
+    proc.step([&] { LoadList(); });
+    if (showList)
+        proc.step([&] { showWindow(); });
+    const auto config = m_state.config;
+    if (!config)
+        return;
+    for (const auto& mailbox : config->Mailboxes)
+        proc.step([&] { mailbox->NewCallCount = 0; });
+    proc.step([&] { m_state.newCallTotal = 0; });
+}
+
+void frmMain::announce(std::int32_t newCalls) {
+    const QString message =
+        text(3765, "You have ") + u' ' + QString::number(newCalls) + u' ' + text(3766, " new calls");
+    m_AlertForm->lblInfo().setText(message);
+    m_AlertForm->ShowForm();
+}
+
+void frmMain::selectAll() {
+    const int count = m_lsCalls.ListItems().Count();
+    for (int index = 1; index <= count; ++index)
+        m_lsCalls.ListItems().Item(index).SetSelected(true);
+}
+
+// The player comes with the audio part; until it is there the tool stays empty.
+void frmMain::dockPlayer() {}
+
+void frmMain::showWindow() {
+    forms::showNonModal(*this);
+    setWindowState(windowState() & ~Qt::WindowMinimized);
+    raise();
+    activateWindow();
+}
+
+void frmMain::hideWindow() {
+    if (m_closeMinimises)
+        showMinimized();
+    else
+        hide();
+}
+
+void frmMain::notificationAreaMissing() {
+    m_closeMinimises = true;
+    showWindow();
+}
+
+bool frmMain::answerModalDialog() {
+    QWidget* dialog = QApplication::activeModalWidget();
+    if (dialog == nullptr)
+        return false;
+    dialog->close();
+    return true;
+}
+
+bool frmMain::Form_QueryUnload(UnloadMode mode) {
+    errors::Procedure proc{m_services.errorHandler, "frmMain", "Form_QueryUnload"};
+    if (mode != UnloadMode::User)
+        return true;
+    proc.step([&] { hideWindow(); });
+    proc.step([&] { m_state.redock = true; });
+    return false;
+}
+
+void frmMain::unload(UnloadMode mode) {
+    if (m_isUnloaded || !Form_QueryUnload(mode))
+        return;
+    m_isUnloaded = true;
+    ++m_state.generation;
+    Form_Unload();
+    hide();
+    Q_EMIT unloaded();
+}
+
+void frmMain::Form_Unload() {
+    errors::Procedure proc{m_services.errorHandler, "frmMain", "Form_Unload"};
+    proc.step([&] { m_messages.detach(); });
+    proc.step([&] { m_mTimer.SetEnabled(false); });
+    if (m_frmSysTray)
+        proc.step([&] { m_frmSysTray->Unload(); });
+    proc.step([&] { std::exchange(m_frmSysTray, nullptr).release()->deleteLater(); });
+    proc.step([&] { m_state.currentConnection.reset(); });
+    proc.step([&] { m_state.listConnection.reset(); });
+    proc.step([&] { m_state.config.reset(); });
+    if (m_AlertForm)
+        proc.step([&] { std::exchange(m_AlertForm, nullptr).release()->deleteLater(); });
+}
+
+void frmMain::closeEvent(QCloseEvent* event) {
+    event->setAccepted(m_isUnloaded || qApp->isSavingSession());
+    if (!event->isAccepted())
+        unload(UnloadMode::User);
+}
+
+void frmMain::changeEvent(QEvent* event) {
+    if (event->type() == QEvent::ActivationChange && isActiveWindow())
+        m_state.redock = true;
+    QMainWindow::changeEvent(event);
+}
+
+void frmMain::resizeEvent(QResizeEvent* event) {
+    QMainWindow::resizeEvent(event);
+    layOut();
+}
+
+} // namespace app

@@ -1,0 +1,89 @@
+// SPDX-FileCopyrightText: 2026 The qmClient authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+// What the tests of the main window stand on: a server's share in a folder of their own with real call logs,
+// settings in a registry beside it, and the real window over them. Only what would reach out of the test is
+// replaced: the notification area, the desktop's rectangles and the error dialog record what they are asked.
+
+#include "app/frmMain.h"
+#include "platform/forms/QtClipboard.h"
+#include "platform/jet/Connection.h"
+#include "platform/jet/Engine.h"
+#include "platform/registry/Registry.h"
+#include "platform/share/LocalFileSystemObject.h"
+#include "tests/app/CallLogFile.h"
+#include "tests/app/TemporaryFolder.h"
+#include "tests/data/SettingsWorld.h"
+#include "tests/errors/RecordingErrorHandler.h"
+
+#include <gtest/gtest.h>
+
+#include <map>
+#include <optional>
+#include <string>
+#include <vector>
+
+namespace app {
+
+class QuietNotificationArea final : public shell::NotificationArea {
+public:
+    bool Shell_NotifyIconA(std::uint32_t, std::span<const std::byte>) override { return true; }
+    bool Shell_NotifyIconW(std::uint32_t message, std::span<const std::byte>) override {
+        messages.push_back(message);
+        return true;
+    }
+    void setMenu(shell::WindowHandle, QMenu* shownMenu) override { menu = shownMenu; }
+    void trackPopupMenu(shell::WindowHandle) override {}
+
+    std::vector<std::uint32_t> messages; // NIM_ADD 0, NIM_MODIFY 1, NIM_DELETE 2, NIM_SETVERSION 4
+    QMenu* menu = nullptr;
+};
+
+class BareDesktop final : public shell::DesktopWindows {
+public:
+    shell::WindowHandle FindWindowExA(std::string_view) override { return 0; }
+    shell::WindowHandle GetDesktopWindow() override { return 1; }
+    shell::Rectangle GetWindowRect(shell::WindowHandle) override { return {0, 0, 1024, 768}; }
+    void move(QWidget& window, int left, int top) override { window.move(left, top); }
+    void clearOwner(QWidget&) override {}
+    void makeTopMost(QWidget&) override {}
+};
+
+class MainWorld : public testing::Test {
+protected:
+    // The settings name the server; its share is there unless removeShare() is called.
+    void configure(const std::vector<int>& mailboxes, int pollSeconds = 10,
+                   const std::string& server = "srv01");
+    tests::CallLogFile& mailbox(int id);
+    void removeShare() const;
+    void load();
+
+    std::vector<std::string> column(int index);
+    std::string onlyLine();
+    tray::frmAlert* popup();
+    std::string popupText();
+    void clickPopup(const char* label);
+    void tick() { window->mTimer_ThatTime(); }
+
+    tests::TemporaryFolder folder;
+    errors::RecordingErrorHandler errorHandler;
+    data::RecordedBoxes messageBoxes;
+    forms::QtClipboard clipboard;
+    QuietNotificationArea notificationArea;
+    BareDesktop desktop;
+    shell::WindowTable windows;
+    shell::IconTable icons;
+    basic::DateTimeFormat format;
+    registry::SystemCalls systemCalls;
+    registry::Registry registry{registry::RegistryPaths{(folder.path() / "registry.reg").string(), {}},
+                                systemCalls};
+    share::LocalFileSystemObject files{share::ShareResolver(
+        [this](std::string_view) { return std::optional((folder.path() / "share").string()); },
+        [] { return std::string(); })};
+    jet::Engine engine{files, [](int) {}};
+    data::basCommon common{errorHandler, files, [this] { return std::make_shared<jet::Connection>(engine); }};
+    std::map<int, tests::CallLogFile> mailboxes;
+    std::optional<frmMain> window;
+};
+
+} // namespace app
