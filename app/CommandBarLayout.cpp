@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "app/CommandBarLayout.h"
 
-#include <string_view>
+#include "resources/Icons.h"
 
 namespace app {
 namespace {
@@ -10,14 +10,17 @@ namespace {
 using forms::Band;
 using forms::BandKind;
 using forms::CommandBar;
+using resources::PlayerIcon;
+using resources::playerIcon;
 
+// The buttons of this band show pictures only.
 void addStatus(CommandBar& ab) {
     Band& band = ab.AddBand("Status", "Status", BandKind::Toolbar);
-    band.AddTool("miSStop", "Tool7");
-    band.AddTool("miSPause", "Tool9");
-    band.AddTool("miSPlay", "Play Message");
-    band.AddTool("miSRew", "Tool11");
-    band.AddTool("miSFwd", "Tool10");
+    band.AddTool("miSStop", "Tool7").SetPicture(playerIcon(PlayerIcon::Stop));
+    band.AddTool("miSPause", "Tool9").SetPicture(playerIcon(PlayerIcon::Pause));
+    band.AddTool("miSPlay", "Play Message").SetPicture(playerIcon(PlayerIcon::Play));
+    band.AddTool("miSRew", "Tool11").SetPicture(playerIcon(PlayerIcon::Rewind));
+    band.AddTool("miSFwd", "Tool10").SetPicture(playerIcon(PlayerIcon::Forward));
     band.AddTool("miSProgress", "Tool13");
     band.AddTool("Tool14");
 }

@@ -154,8 +154,9 @@ void frmMain::selectAll() {
         m_lsCalls.ListItems().Item(index).SetSelected(true);
 }
 
-// The player comes with the audio part; until it is there the tool stays empty.
-void frmMain::dockPlayer() {}
+void frmMain::dockPlayer() {
+    m_ab.Bands(kBandStatus).Tools("miSProgress").SetCustom(&m_playerPlace);
+}
 
 void frmMain::showWindow() {
     forms::showNonModal(*this);
@@ -205,16 +206,25 @@ void frmMain::unload(UnloadMode mode) {
 
 void frmMain::Form_Unload() {
     errors::Procedure proc{m_services.errorHandler, "frmMain", "Form_Unload"};
+    proc.step([&] { m_ab.Bands(kBandStatus).Tools("miSProgress").SetCustom(nullptr); });
     proc.step([&] { m_messages.detach(); });
     proc.step([&] { m_mTimer.SetEnabled(false); });
     if (m_frmSysTray)
         proc.step([&] { m_frmSysTray->Unload(); });
-    proc.step([&] { std::exchange(m_frmSysTray, nullptr).release()->deleteLater(); });
+    // Both may be further up the stack, waiting for the click that led here.
+    proc.step([&] {
+        if (auto* icon = m_frmSysTray.release())
+            icon->deleteLater();
+    });
     proc.step([&] { m_state.currentConnection.reset(); });
     proc.step([&] { m_state.listConnection.reset(); });
     proc.step([&] { m_state.config.reset(); });
-    if (m_AlertForm)
-        proc.step([&] { std::exchange(m_AlertForm, nullptr).release()->deleteLater(); });
+    proc.step([&] {
+        if (auto* popup = m_AlertForm.release()) {
+            popup->hide();
+            popup->deleteLater();
+        }
+    });
 }
 
 void frmMain::closeEvent(QCloseEvent* event) {

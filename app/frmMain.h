@@ -103,6 +103,7 @@ private:
     TrayEvents m_trayEvents;
     ListEvents m_listEvents;
     WindowMessages m_messages;
+    QWidget m_playerPlace; // what miSProgress hosts; the player goes in here
 
     std::unique_ptr<tray::frmSysTray> m_frmSysTray;
     std::unique_ptr<tray::frmAlert> m_AlertForm;
