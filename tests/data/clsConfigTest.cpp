@@ -210,18 +210,38 @@ TEST_F(clsConfigTest, RetryLoadsOnceTheFileIsMended) {
     EXPECT_EQ(keysOf(config), "KEY8=8;");
 }
 
-// A registry whose disk is full from the moment that is said.
+// A disk that is full, or takes a few more writes before it is.
 class FullDisk final : public registry::SystemCalls {
 public:
     ssize_t write(int file, const void* from, std::size_t size) override {
-        if (isFull) {
+        if (isFull && writesLeft-- <= 0) {
             errno = ENOSPC;
             return -1;
         }
         return SystemCalls::write(file, from, size);
     }
     bool isFull = true;
+    int writesLeft = 0;
 };
+
+TEST_F(clsConfigTest, ASaveIsAllOrNothingWheneverTheDiskFillsUp) {
+    const std::string old = folder.settings(mailboxLines("3", "three") + mailboxLines("4", "four"));
+    std::string complete;
+    for (int writes = 8; writes >= 0; --writes) {
+        folder.put(folder.userFile(), old);
+        FullDisk full;
+        full.writesLeft = writes;
+        registry::Registry failing(folder.paths(), full);
+        clsConfig saved{failing, boxes, errors};
+        saved.LoadConfig();
+        saved.ServerName = "new";
+        const bool isSaved = saved.SaveConfig();
+        if (complete.empty())
+            complete = folder.content(folder.userFile());
+        EXPECT_EQ(folder.content(folder.userFile()), isSaved ? complete : old) << writes;
+    }
+    EXPECT_NE(complete.find("\"ServerName\"=\"new\""), std::string::npos);
+}
 
 TEST_F(clsConfigTest, AbortAfterAFailedSaveLeavesTheOldFile) {
     putUser(mailboxLines("3", "three"));

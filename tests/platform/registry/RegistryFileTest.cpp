@@ -92,6 +92,15 @@ TEST_F(RegistryFileTest, ADamagedFileStaysAnErrorUntilItIsMended) {
     EXPECT_NE(m_file.tree().find("L"), nullptr);
 }
 
+TEST_F(RegistryFileTest, ADamagedFileThatIsRemovedLeavesNoOldTreeBehind) {
+    put("[K]\n");
+    m_file.tree();
+    put("rubbish\n");
+    EXPECT_THROW(m_file.tree(), StoreError);
+    fs::remove(m_path);
+    EXPECT_TRUE(m_file.tree().keys().empty());
+}
+
 TEST_F(RegistryFileTest, ADamagedFileIsNotReplaced) {
     put("[K]\nrubbish\n");
     const std::string before = content();

@@ -281,6 +281,19 @@ TEST_F(RegistryTest, ABatchIsAppliedToWhatTheFileHoldsAtCommit) {
     EXPECT_EQ(stored("S\\a", "x"), "(missing)");
 }
 
+TEST_F(RegistryTest, ABatchLeavesAKeyThatGotSubkeysFromSomebodyElse) {
+    set("S\\a", "x", "1");
+    Batch batch(m_registry);
+    EXPECT_EQ(remove("S\\a"), kSuccess);
+    {
+        Registry other(m_folder.paths(), m_calls);
+        OpenKey key;
+        ASSERT_TRUE(other.RegCreateKey(Root::CurrentUser, "S\\a\\theirs", key));
+    }
+    batch.commit();
+    EXPECT_EQ(open(Root::CurrentUser, "S\\a\\theirs", kKeyRead), kSuccess);
+}
+
 TEST_F(RegistryTest, ABatchThatFailsMayBeCommittedAgain) {
     set("S", "a", "1");
     Batch batch(m_registry);
