@@ -4,6 +4,8 @@
 // output for a failure, 2 for wrong usage.
 
 #include "platform/basic/RuntimeError.h"
+#include "platform/basic/SystemClock.h"
+#include "tools/demo/DemoShare.h"
 #include "tools/qmjet/Commands.h"
 
 #include <unistd.h>
@@ -13,7 +15,6 @@
 #include <csignal>
 #include <cstdio>
 #include <exception>
-#include <functional>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -32,6 +33,7 @@ constexpr std::string_view kUsage = R"(usage: qmjet COMMAND ...
   rows FILE TABLE          all rows as CSV
   sql FILE "STATEMENT"     execute a statement, rows as CSV
   check FILE               read everything, name the first inconsistency
+  create-demo FOLDER       make a share with two mailboxes to try things on
   --help                   this text
 )";
 
@@ -49,6 +51,10 @@ constexpr std::array kCommands{
     Command{"rows", 2, [](const Arguments& a, qmjet::Output& out) { qmjet::printRows(a[0], a[1], out); }},
     Command{"sql", 2, [](const Arguments& a, qmjet::Output& out) { qmjet::execute(a[0], a[1], out); }},
     Command{"check", 1, [](const Arguments& a, qmjet::Output& out) { qmjet::check(a[0], out); }},
+    Command{"create-demo", 1,
+            [](const Arguments& a, qmjet::Output&) {
+                demo::createDemoShare(a[0], basic::SystemClock().nowAsDate());
+            }},
     Command{"tables --all", 1,
             [](const Arguments& a, qmjet::Output& out) { qmjet::listTables(a[0], true, out); }},
 };
