@@ -1,11 +1,11 @@
 # SPDX-FileCopyrightText: 2026 The qmClient authors
 # SPDX-License-Identifier: GPL-3.0-or-later
 #
-#   qm_desktop_test(NAME SCRIPT [SECONDS n] [LABELS …])       a Python script that drives programs in build/<preset>/bin
-#   qm_desktop_program_test(TARGET [ARGS …] [SECONDS n])      a test program run by with_desktop.py, ARGS are its options
+#   qm_desktop_test(NAME SCRIPT [SECONDS n] [LABELS …])     a Python script that drives our programs
+#   qm_desktop_program_test(TARGET [ARGS …] [SECONDS n])    a test program under with_desktop.py ARGS
 #
-# Both are labelled "gui"; desktops are private, so such tests run side by side. A script finds the programs in the
-# environment variable QM_BIN.
+# Both are labelled "gui"; desktops are private, so such tests run side by side. A script finds the programs
+# of the build in the environment variable QM_BIN.
 
 set(QM_DESKTOP_FOLDER ${CMAKE_SOURCE_DIR}/tests/desktop)
 # The system's interpreter: python3-gi belongs to it.

@@ -30,13 +30,15 @@ class RunnerTest(unittest.TestCase):
         self.assertEqual(subprocess.run([RUNNER, '--', 'sh', '-c', 'exit 7'], check=False).returncode, 7)
 
     def test_runs_the_command_in_a_home_of_its_own_that_is_gone_afterwards(self):
-        done = subprocess.run([RUNNER, '--', 'sh', '-c', 'echo "$HOME"'], check=True, capture_output=True, text=True)
+        done = subprocess.run([RUNNER, '--', 'sh', '-c', 'echo "$HOME"'], check=True, capture_output=True,
+                              text=True)
         home = pathlib.Path(done.stdout.strip())
         self.assertEqual(home.name, 'home')
         self.assertFalse(home.parent.exists())
 
     def test_leaves_nothing_behind_when_it_is_killed(self):
-        with subprocess.Popen([RUNNER, '--tray', 'trayer', '--', 'sh', '-c', 'echo "$QM_DESKTOP"; exec sleep 600'],
+        command = ['sh', '-c', 'echo "$QM_DESKTOP"; exec sleep 600']
+        with subprocess.Popen([RUNNER, '--tray', 'trayer', '--', *command],
                               stdout=subprocess.PIPE, text=True) as runner:
             folder = pathlib.Path(runner.stdout.readline().strip())
             mine = set(marked(folder))
@@ -96,9 +98,9 @@ class DesktopTest(unittest.TestCase):
     def test_a_notifier_panel_says_when_its_host_comes(self):
         with Desktop() as desktop:
             desktop.tray.start('sni', host=False)
-            question = ['gdbus', 'call', '--session', '-d', 'org.kde.StatusNotifierWatcher', '-o', '/StatusNotifierWatcher',
-                        '-m', 'org.freedesktop.DBus.Properties.Get', 'org.kde.StatusNotifierWatcher',
-                        'IsStatusNotifierHostRegistered']
+            question = ['gdbus', 'call', '--session', '-d', 'org.kde.StatusNotifierWatcher',
+                        '-o', '/StatusNotifierWatcher', '-m', 'org.freedesktop.DBus.Properties.Get',
+                        'org.kde.StatusNotifierWatcher', 'IsStatusNotifierHostRegistered']
             self.assertIn('false', desktop.run(question))
             desktop.tray.notifier.ask('set_host', there=True)
             self.assertIn('true', desktop.run(question))

@@ -1,6 +1,6 @@
 # SPDX-FileCopyrightText: 2026 The qmClient authors
 # SPDX-License-Identifier: GPL-3.0-or-later
-"""The client as its user sees it: icon, menu, main window, popup. Texts are read as a screen reader reads them."""
+"""The client as its user sees it: icon, menu, window, popup. Texts are read as a screen reader does."""
 import re
 
 from desktop import DesktopError, wait_until
@@ -9,6 +9,7 @@ from site_folder import program
 TITLE = '^(Quillamar Calls|Quillamar - Anrufe)$'
 POPUP = '^(You have  [0-9]+  new calls|Sie haben [0-9]+ neue Anrufe)$'
 SHOW = '^(Show|Anzeigen)$'
+X = '^(Close|Schließen)$'  # what the "x" is called for those who hear it
 OPEN, CONFIG, ABOUT, CLOSE = 1, 2, 3, 4
 # A program that was just started on a busy machine.
 START_SECONDS = 30
@@ -26,14 +27,15 @@ class Client:
         return self.process.alive
 
     def wait_docked(self):
-        """The icon in the notification area; it is there once everything else of the start-up is done, too."""
+        """The icon in the notification area; it comes last of the start-up's steps."""
         def docked():
             if not self.alive:
                 raise DesktopError(f'the client has ended ({self.process.popen.returncode}): '
                                    f'{self.process.errors()[-800:]}')
             return self.desktop.tray.icons()
         icon = wait_until(docked, 'the icon to dock', START_SECONDS)[0]
-        wait_until(lambda: self.process.pid in self.desktop.reader().ask('programs'), 'the client to be readable')
+        reader = self.desktop.reader()
+        wait_until(lambda: self.process.pid in reader.ask('programs'), 'the client to be readable')
         return icon
 
     # Menu
@@ -51,10 +53,15 @@ class Client:
         self.choose(OPEN)
         return self.desktop.wait_window(TITLE)
 
+    def hide(self):
+        """With the close box."""
+        self.desktop.windows.ask_to_close(self.window())
+        self.desktop.wait_no_window(TITLE)
+
     def window(self):
         return self.desktop.windows.find(TITLE)
 
-    # List
+    # List: it can be read once the window was shown, hidden or not
 
     def _objects(self, role, name=None, showing=False):
         return self.desktop.objects(self.process, role, name, showing)
@@ -106,12 +113,28 @@ class Client:
 
     def click_link(self, name):
         """One of the popup's links, with the mouse."""
-        found = [o for role in ('label', 'link', 'push button', 'button') for o in self._objects(role, name, True)]
+        roles = ('label', 'link', 'push button', 'button')
+        found = [o for role in roles for o in self._objects(role, name, showing=True)]
         if len(found) != 1:
             raise DesktopError(f'{len(found)} links {name!r} instead of one')
         window = wait_until(self.popup_window, 'the popup')
         self.desktop.click_object(found[0], window)
 
-    def dialogs(self):
-        """Texts of what stands open besides the main window and the popup."""
-        return [o['name'] for role in ('dialog', 'alert') for o in self._objects(role, showing=True)]
+    # Error dialogs
+
+    def ignore_errors(self):
+        """Answers an error dialog that stands open; true if there was one."""
+        buttons = self._objects('push button', '^(Ignore|Ignorieren)$', showing=True)
+        window = self.desktop.windows.active()
+        if not buttons or not window or window.pid != self.process.pid:
+            return False
+        self.desktop.click_object(buttons[0], window)
+        return True
+
+    def wait_popup_past_errors(self, number, seconds=30):
+        """As wait_popup, answering error dialogs: the popup does not come while one is up."""
+        def announced():
+            self.ignore_errors()
+            text = self.popup_text()
+            return text and int(re.search('[0-9]+', text)[0]) == number
+        wait_until(announced, f'the popup to announce {number}', seconds)

@@ -2,9 +2,10 @@
 # SPDX-License-Identifier: GPL-3.0-or-later
 """demo [--headless] [--lang LOCALE] [--every SECONDS]
 
-Shows the client with a server of its own that logs a new call every few seconds. With a display the client is there to
-be used, until it is closed from its tray icon or Ctrl+C is pressed. Without one, or with --headless, it is shown on a
-private desktop for about half a minute; pictures are left in build/demo/. Nothing is left anywhere else.
+Shows the client with a server of its own that logs a new call every few seconds. With a display the client is
+there to be used, until it is closed from its tray icon or Ctrl+C is pressed. Without one, or with --headless,
+it is shown on a private desktop for about half a minute; pictures are left in build/demo/. Nothing is left
+anywhere else.
 """
 import argparse
 import os
@@ -27,7 +28,8 @@ _FOLDERS = ('XDG_CONFIG_HOME', 'XDG_DATA_HOME', 'XDG_STATE_HOME', 'XDG_CACHE_HOM
 def arguments():
     parser = argparse.ArgumentParser(prog='scripts/demo', description=__doc__,
                                      formatter_class=argparse.RawDescriptionHelpFormatter)
-    parser.add_argument('--headless', action='store_true', help='on a private desktop even where there is a display')
+    parser.add_argument('--headless', action='store_true',
+                        help='on a private desktop even where there is a display')
     parser.add_argument('--lang', help='language of the client, such as de_DE.UTF-8')
     parser.add_argument('--every', type=int, default=4, help='seconds between two calls')
     return parser.parse_args()
@@ -36,14 +38,15 @@ def arguments():
 def make_share(folder):
     """A share with the demo's mailboxes; answers their numbers and names."""
     share = folder / 'share'
-    subprocess.run([program('qmjet'), 'create-demo', share], check=True, stdout=subprocess.DEVNULL)
+    subprocess.run([program('qmdemo'), share, '--once'], check=True, stdout=subprocess.DEVNULL)
     numbers = sorted(int(entry.name) for entry in (share / 'MBX').iterdir())
     return share, {number: name for number, name in zip(numbers, ('Reception', 'Service', 'Night'))}
 
 
 def count_calls(path):
     """By the command-line tool, not by the client."""
-    done = subprocess.run([program('qmjet'), 'count', path, 'CallLog'], capture_output=True, text=True, check=True)
+    done = subprocess.run([program('qmjet'), 'count', path, 'CallLog'],
+                          capture_output=True, text=True, check=True)
     return int(re.search('[0-9]+', done.stdout)[0])
 
 
@@ -71,8 +74,9 @@ def with_display(chosen):
         try:
             for argv in ([program('qmdemo'), share, '--every', str(chosen.every)], [program('qmClient')]):
                 programs.append(subprocess.Popen(argv, env=env, cwd=folder, preexec_fn=die_with_parent))
-            print(f'The client is running; its icon is in the notification area. A call comes every {chosen.every} s.\n'
-                  'End it with "Close Quillamar Client" in the icon\'s menu, or with Ctrl+C here.', flush=True)
+            print(f'The client is running; its icon is in the notification area. '
+                  f'A call comes every {chosen.every} s.\n'
+                  'End it with the last entry of the icon\'s menu, or with Ctrl+C here.', flush=True)
             return programs[-1].wait()
         finally:
             for started in programs:

@@ -1,6 +1,6 @@
 # SPDX-FileCopyrightText: 2026 The qmClient authors
 # SPDX-License-Identifier: GPL-3.0-or-later
-"""The demonstration on a machine without a display: goes through the client on a private desktop and says what it sees."""
+"""The demonstration without a display: goes through the client on a private desktop, says what it sees."""
 import re
 import time
 
@@ -9,7 +9,7 @@ from desktop import DesktopError
 
 
 class Tour:
-    """`count(number)` gives the calls in a mailbox's file; the first of `numbers` is the one the list shows."""
+    """`count(number)` gives the calls in a mailbox's file; the list shows the first of `numbers`."""
 
     def __init__(self, desktop, pictures, numbers, count):
         self._desktop, self._pictures, self._numbers, self._count = desktop, pictures, numbers, count
@@ -60,7 +60,8 @@ class Tour:
         """new call noticed, popup shown with its text"""
         before = self._client.row_count()
         text = self._client.wait_popup(seconds=30)
-        self._desktop.wait_for(lambda: self._count(self._numbers[0]) > before, 'a call in the listed mailbox', 30)
+        number = self._numbers[0]
+        self._desktop.wait_for(lambda: self._count(number) > before, 'a call in the listed mailbox', 30)
         self._picture('popup.png')
         return f'new call noticed, popup shown: "{text}"'
 
@@ -75,7 +76,8 @@ class Tour:
         after = self._client.row_count()
         if after <= before:
             raise DesktopError(f'{before} rows before, {after} after')
-        return f'Show clicked, list has the new call: {before} rows before, {after} after, newest {self._client.rows(1)[0]}'
+        return (f'Show clicked, list has the new call: {before} rows before, {after} after, '
+                f'newest {self._client.rows(1)[0]}')
 
     def _ended(self):
         """client ended by the tray's close"""
@@ -83,5 +85,6 @@ class Tour:
         code = self._client.process.wait(10)
         if code:
             raise DesktopError(f'exit code {code}: {self._client.process.errors()[-300:]}')
-        complaints = [line for line in self._client.process.errors().splitlines() if re.search('qt|warning', line, re.I)]
+        said = self._client.process.errors().splitlines()
+        complaints = [line for line in said if re.search('qt|warning', line, re.I)]
         return 'client ended by the tray\'s close' + (f', having said {complaints}' if complaints else '')

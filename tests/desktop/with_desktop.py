@@ -1,10 +1,11 @@
 #!/usr/bin/python3 -B
 # SPDX-FileCopyrightText: 2026 The qmClient authors
 # SPDX-License-Identifier: GPL-3.0-or-later
-"""with_desktop.py [--tray none|trayer|tint2|sni] [--size WxH[,MONITORS]] [--lang LOCALE] [--no-wm] -- COMMAND…
+"""with_desktop.py [--tray none|trayer|tint2|sni] [--size WxH[,MONITORS]] [--lang LOCALE] [--no-wm]
+                -- COMMAND…
 
-Runs a command on a private desktop (X server, session bus, window manager, notification area, temporary home) and
-gives its exit code. Everything ends with the command, and if this program is killed.
+Runs a command on a private desktop (X server, session bus, window manager, notification area, temporary
+home) and gives its exit code. Everything ends with the command, and if this program is killed.
 """
 import argparse
 import os
@@ -19,7 +20,8 @@ from desktop import Desktop, DesktopError, die_with_parent  # noqa: E402
 
 
 def arguments():
-    parser = argparse.ArgumentParser(description=__doc__, formatter_class=argparse.RawDescriptionHelpFormatter)
+    parser = argparse.ArgumentParser(description=__doc__,
+                                     formatter_class=argparse.RawDescriptionHelpFormatter)
     parser.add_argument('--tray', choices=['none', 'trayer', 'tint2', 'sni'], default='none')
     parser.add_argument('--size', default='1280x800', help='of one monitor, and how many of them: 1024x768,2')
     parser.add_argument('--lang', default='C.UTF-8')
@@ -36,7 +38,8 @@ def main():
     try:
         with Desktop(size, int(monitors or 1), chosen.lang, chosen.tray, not chosen.no_wm) as desktop:
             # The command keeps our own input, output and working directory.
-            command = subprocess.Popen(chosen.command, env=desktop.env, cwd=os.getcwd(), preexec_fn=die_with_parent)
+            command = subprocess.Popen(chosen.command, env=desktop.env, cwd=os.getcwd(),
+                                       preexec_fn=die_with_parent)
             try:
                 code = command.wait()
             finally:

@@ -5,4 +5,5 @@ from .desktop import Desktop
 from .processes import DesktopError, Program, die_with_parent, temporary_folder, wait_until
 from .windows import Window
 
-__all__ = ['Desktop', 'DesktopError', 'Program', 'Window', 'die_with_parent', 'temporary_folder', 'wait_until']
+__all__ = ['Desktop', 'DesktopError', 'Program', 'Window', 'die_with_parent', 'temporary_folder',
+           'wait_until']

@@ -1,6 +1,6 @@
 # SPDX-FileCopyrightText: 2026 The qmClient authors
 # SPDX-License-Identifier: GPL-3.0-or-later
-"""Reads the windows of a program through the accessibility bus, as a screen reader does. A process of its own."""
+"""Reads a program's windows through the accessibility bus, as a screen reader does. A process of its own."""
 from gi.repository import Gio, GLib
 
 from answering import run
@@ -17,7 +17,8 @@ class Reader:
         session = Gio.bus_get_sync(Gio.BusType.SESSION)
         address = session.call_sync('org.a11y.Bus', '/org/a11y/bus', 'org.a11y.Bus', 'GetAddress', None, None,
                                     Gio.DBusCallFlags.NONE, 10000, None).unpack()[0]
-        flags = (Gio.DBusConnectionFlags.AUTHENTICATION_CLIENT | Gio.DBusConnectionFlags.MESSAGE_BUS_CONNECTION)
+        flags = (Gio.DBusConnectionFlags.AUTHENTICATION_CLIENT
+                 | Gio.DBusConnectionFlags.MESSAGE_BUS_CONNECTION)
         self._bus = Gio.DBusConnection.new_for_address_sync(address, flags, None, None)
         # The programs' registry must run before the first program looks for it.
         self._bus.call_sync('org.freedesktop.DBus', '/org/freedesktop/DBus', 'org.freedesktop.DBus',

@@ -11,18 +11,20 @@ from .tray import Tray
 from .windows import Windows
 
 # What a program may inherit from the desktop that the test was started on.
-_INHERITED = ('PATH', 'TERM', 'TZ', 'ASAN_OPTIONS', 'UBSAN_OPTIONS', 'TSAN_OPTIONS', 'LSAN_OPTIONS', 'LD_LIBRARY_PATH')
-_DIRECTORIES = {'HOME': 'home', 'XDG_CONFIG_HOME': 'config', 'XDG_DATA_HOME': 'data', 'XDG_STATE_HOME': 'state',
-                'XDG_CACHE_HOME': 'cache', 'XDG_RUNTIME_DIR': 'run', 'TMPDIR': 'tmp'}
+_INHERITED = ('PATH', 'TERM', 'TZ', 'LD_LIBRARY_PATH', 'ASAN_OPTIONS', 'UBSAN_OPTIONS', 'LSAN_OPTIONS')
+_DIRECTORIES = {'HOME': 'home', 'XDG_CONFIG_HOME': 'config', 'XDG_DATA_HOME': 'data',
+                'XDG_STATE_HOME': 'state', 'XDG_CACHE_HOME': 'cache', 'XDG_RUNTIME_DIR': 'run',
+                'TMPDIR': 'tmp'}
 
 
 class Desktop:
-    """with Desktop(tray='trayer') as desktop: desktop.start([...]) … Everything ends with the block, whatever happens.
+    """with Desktop(tray='trayer') as desktop: desktop.start([...]) … Everything ends with the block.
 
-    If this process itself is killed, its programs die with it and a shell that waits for that removes the folder.
+    If this process itself is killed, its programs die with it and a waiting shell removes the folder.
     """
 
-    def __init__(self, size='1280x800', monitors=1, lang='C.UTF-8', tray='none', wm=True, accessibility=False):
+    def __init__(self, size='1280x800', monitors=1, lang='C.UTF-8', tray='none', wm=True,
+                 accessibility=False):
         self.size, self.monitors, self.lang = tuple(map(int, size.split('x'))), monitors, lang
         self._wanted_tray, self._wm, self._accessibility = tray, wm, accessibility
         self._programs, self._reader = [], None
@@ -72,7 +74,8 @@ class Desktop:
         if self._wm:
             self.start(['openbox', '--sm-disable'])
             for number in (1, 0):
-                wait_until(lambda n=number: self.windows.window_manager_answers(n), 'the window manager to answer')
+                wait_until(lambda n=number: self.windows.window_manager_answers(n),
+                           'the window manager to answer')
         self.tray = Tray(self.windows, self.start, self.env, self.folder)
         if self._accessibility:
             self.reader().ask('programs')
@@ -81,19 +84,19 @@ class Desktop:
 
     def _compile_locale(self):
         """Programs complain about a locale that is not compiled, and fall back to another character set."""
-        known = subprocess.run(['locale', '-a'], capture_output=True, text=True, check=True).stdout.lower().split()
-        if self.lang.lower().replace('-', '') in [name.replace('-', '') for name in known]:
+        known = self.run(['locale', '-a']).lower().replace('-', '').split()
+        if self.lang.lower().replace('-', '') in known:
             return
         name, _, charset = self.lang.partition('.')
         (self.folder / 'locale').mkdir()
         subprocess.run(['localedef', '-i', name, '-f', charset, self.folder / 'locale' / self.lang],
                        capture_output=True, check=False)
         if not (self.folder / 'locale' / self.lang / 'LC_CTYPE').exists():
-            raise DesktopError(f'the locale {self.lang} cannot be compiled: is the package locales installed?')
+            raise DesktopError(f'the locale {self.lang} cannot be compiled: is locales installed?')
         self.env['LOCPATH'] = str(self.folder / 'locale')
 
     def _start_with_answer(self, argv):
-        """Starts a program that writes one line to the descriptor named %FD% once it is ready; gives that line."""
+        """Starts a program that writes a line to the descriptor %FD% once it is ready; gives that line."""
         reading, writing = os.pipe()
         program = self.start([str(word).replace('%FD%', str(writing)) for word in argv], pass_fds=(writing,))
         os.close(writing)
@@ -104,13 +107,15 @@ class Desktop:
         return line
 
     def _start_bus(self):
-        address = self._start_with_answer(['dbus-daemon', '--session', '--nofork', '--nopidfile', '--print-address=%FD%'])
+        address = self._start_with_answer(['dbus-daemon', '--session', '--nofork', '--nopidfile',
+                                           '--print-address=%FD%'])
         # Nothing of the machine's real system bus may be reachable.
         self.env |= {'DBUS_SESSION_BUS_ADDRESS': address, 'DBUS_SYSTEM_BUS_ADDRESS': address}
 
     def _start_x_server(self):
         width, height = self.size
-        number = self._start_with_answer(['Xvfb', '-displayfd', '%FD%', '-screen', '0', f'{width * self.monitors}x{height}x24',
+        screen = f'{width * self.monitors}x{height}x24'
+        number = self._start_with_answer(['Xvfb', '-displayfd', '%FD%', '-screen', '0', screen,
                                           '-nolisten', 'tcp', '-noreset', '-dpi', '96'])
         self.env['DISPLAY'] = f':{number}'
         for i in range(self.monitors if self.monitors > 1 else 0):
@@ -136,7 +141,7 @@ class Desktop:
 
     @staticmethod
     def wait_for(condition, what, seconds=10):
-        """The first true answer of condition(); an error that says what was waited for when there is none in time."""
+        """The first true answer of condition(); an error that names `what` when there is none in time."""
         return wait_until(condition, what, seconds)
 
     # Windows
@@ -145,7 +150,7 @@ class Desktop:
         return wait_until(lambda: self.windows.find(title, **how), f'window {title!r} {how or ""}', seconds)
 
     def wait_no_window(self, title=None, seconds=10, **how):
-        wait_until(lambda: not self.windows.find(title, **how), f'end of window {title!r} {how or ""}', seconds)
+        wait_until(lambda: not self.windows.find(title, **how), f'end of window {title!r}', seconds)
 
     def wait_active(self, title, seconds=5):
         def active():
@@ -179,18 +184,18 @@ class Desktop:
     # Texts
 
     def reader(self):
-        """The accessibility reader (accessibility.py); the desktop must have been made with accessibility=True."""
+        """The accessibility reader (accessibility.py), for desktops made with accessibility=True."""
         if not self._reader:
             self._reader = Helper('accessibility.py', self.env, self.folder, self.folder / 'logs')
         return self._reader
 
     def objects(self, program, role=None, name=None, showing=True):
-        """What a screen reader finds in a program: dictionaries with role, name, showing, selected, enabled, where."""
+        """What a screen reader finds: dictionaries with role, name, showing, selected, enabled, where."""
         return [o for o in self.reader().ask('tree', pid=program.pid)
                 if role in (None, o['role']) and (name is None or re.search(name, o['name']))
                 and (o['showing'] or not showing)]
 
     def click_object(self, found, window):
-        """A real mouse click into the middle of an object in `window`, which the X server says where it is."""
+        """A real mouse click into the middle of an object in `window`, a window as the X server has it."""
         x, y, width, height = self.reader().ask('rect', where=found['where'])
         self.click(window.x + x + width // 2, window.y + y + height // 2)

@@ -15,7 +15,8 @@ PYTHON = '/usr/bin/python3'
 class Helper:
     def __init__(self, script, env, folder, logs):
         path = pathlib.Path(__file__).with_name(script)
-        self._program = Program([PYTHON, '-B', path], env, folder, logs, stdin=subprocess.PIPE, stdout=subprocess.PIPE)
+        self._program = Program([PYTHON, '-B', path], env, folder, logs, stdin=subprocess.PIPE,
+                                stdout=subprocess.PIPE)
         self.pid = self._program.pid
 
     def ask(self, question, seconds=15, **values):
@@ -24,7 +25,7 @@ class Helper:
             pipes.stdin.write(json.dumps({'ask': question, **values}).encode() + b'\n')
             pipes.stdin.flush()
         except OSError:
-            raise DesktopError(f'{self._program.argv[-1]} has ended: {self._program.errors()[-500:]}') from None
+            raise DesktopError(f'the helper has ended: {self._program.errors()[-500:]}') from None
         if not select.select([pipes.stdout], [], [], seconds)[0]:
             raise DesktopError(f'{question}: no answer within {seconds:g} s')
         line = pipes.stdout.readline()

@@ -1,6 +1,6 @@
 # SPDX-FileCopyrightText: 2026 The qmClient authors
 # SPDX-License-Identifier: GPL-3.0-or-later
-"""A minimal panel of the StatusNotifier kind: the watcher and, when told, a host. Runs as a process of its own."""
+"""A minimal panel of the StatusNotifier kind: a watcher and, when told, a host. A process of its own."""
 from gi.repository import Gio, GLib
 
 from answering import run
@@ -29,8 +29,8 @@ class Panel:
         self._items, self._host, self._name = [], False, 0
         interface = Gio.DBusNodeInfo.new_for_xml(XML).interfaces[0]
         self._bus.register_object(WATCHER_PATH, interface, self._called, self._property, None)
-        self._bus.signal_subscribe('org.freedesktop.DBus', 'org.freedesktop.DBus', 'NameOwnerChanged', None, None,
-                                   Gio.DBusSignalFlags.NONE, self._owner_changed)
+        self._bus.signal_subscribe('org.freedesktop.DBus', 'org.freedesktop.DBus', 'NameOwnerChanged',
+                                   None, None, Gio.DBusSignalFlags.NONE, self._owner_changed)
 
     def _called(self, _bus, sender, _path, _interface, method, arguments, invocation):
         if method == 'RegisterStatusNotifierItem':
@@ -68,8 +68,9 @@ class Panel:
     def do_own_name(self):
         """Answers once the name is ours."""
         flags = GLib.Variant('(su)', (WATCHER, 4))
-        return self._bus.call_sync('org.freedesktop.DBus', '/org/freedesktop/DBus', 'org.freedesktop.DBus',
-                                   'RequestName', flags, None, Gio.DBusCallFlags.NONE, 5000, None).unpack()[0] == 1
+        answer = self._bus.call_sync('org.freedesktop.DBus', '/org/freedesktop/DBus', 'org.freedesktop.DBus',
+                                     'RequestName', flags, None, Gio.DBusCallFlags.NONE, 5000, None)
+        return answer.unpack()[0] == 1
 
     def do_set_host(self, there):
         self._host = there

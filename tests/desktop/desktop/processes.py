@@ -2,8 +2,8 @@
 # SPDX-License-Identifier: GPL-3.0-or-later
 """Programs of a private desktop: started with captured output, ended by pid, dying with whoever started them.
 
-Every program started here carries QM_DESKTOP=<folder of its desktop> in its environment, and this process adopts
-orphans, so that what a program leaves running in the background is found and ended as well.
+Every program started here carries QM_DESKTOP=<folder of its desktop> in its environment, and this process
+adopts orphans, so that what a program leaves running in the background is found and ended as well.
 """
 import contextlib
 import ctypes
@@ -50,8 +50,9 @@ class Program:
         self._out, self._err = logs / f'{base}.out', logs / f'{base}.err'
         with open(self._out, 'wb') as out, open(self._err, 'wb') as err:
             try:
-                self.popen = subprocess.Popen(self.argv, env=env, cwd=cwd, stdin=stdin, stdout=stdout or out, stderr=err,
-                                              pass_fds=pass_fds, start_new_session=True, preexec_fn=die_with_parent)
+                self.popen = subprocess.Popen(self.argv, env=env, cwd=cwd, stdin=stdin, stdout=stdout or out,
+                                              stderr=err, pass_fds=pass_fds, start_new_session=True,
+                                              preexec_fn=die_with_parent)
             except OSError as error:
                 raise DesktopError(f'{self.argv[0]} does not start: {error}') from None
         self.pid = self.popen.pid
@@ -116,7 +117,7 @@ def adopt_orphans():
 
 
 def strays(folder):
-    """Pids of our own children that belong to the desktop in `folder`; ended ones are collected on the way."""
+    """Pids of our own children that belong to the desktop in `folder`; ended ones are collected."""
     found = []
     for pid in _children():
         try:

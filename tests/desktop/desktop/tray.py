@@ -1,6 +1,6 @@
 # SPDX-FileCopyrightText: 2026 The qmClient authors
 # SPDX-License-Identifier: GPL-3.0-or-later
-"""The notification areas a desktop can have: trayer or tint2 (XEmbed), or a StatusNotifier panel of our own."""
+"""A desktop's notification area: trayer or tint2 (XEmbed), or a StatusNotifier panel of our own."""
 from .helper import Helper
 from .processes import DesktopError, wait_until
 
@@ -26,7 +26,7 @@ class Tray:
         self.kind = 'none'
 
     def start(self, kind, edge='bottom', monitor=0, host=True):
-        """kind: trayer, tint2 or sni; host=False leaves the sni panel with a watcher whose host has not come yet."""
+        """kind: trayer, tint2 or sni; host=False: an sni panel whose host has not come yet."""
         if self.kind != 'none':
             raise DesktopError(f'{self.kind} is already there')
         if kind == 'sni':
@@ -36,13 +36,15 @@ class Tray:
                 self.notifier.ask('set_host', there=True)
         else:
             self._program = self._start(self._command(kind, edge, monitor))
-            wait_until(lambda: self._windows.selection_owner(SELECTION) and self.panel(), f'{kind} to dock', 15)
+            wait_until(lambda: self._windows.selection_owner(SELECTION) and self.panel(),
+                       f'{kind} to dock', 15)
         self.kind = kind
 
     def _command(self, kind, edge, monitor):
         if kind == 'trayer':
             return ['trayer', '--edge', edge, '--align', 'right', '--widthtype', 'percent', '--width', '100',
-                    '--height', '24', '--monitor', monitor, '--SetDockType', 'true', '--SetPartialStrut', 'true']
+                    '--height', '24', '--monitor', monitor,
+                    '--SetDockType', 'true', '--SetPartialStrut', 'true']
         if kind == 'tint2':
             settings = self._folder / 'tint2rc'
             settings.write_text(TINT2.format(edge=edge, monitor=monitor + 1))

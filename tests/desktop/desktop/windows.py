@@ -49,7 +49,7 @@ class Windows:
     def window_manager_answers(self, desktop):
         """Asks it to switch the desktop, true once it has.
 
-        That it has announced itself is not enough: a window that is mapped before it listens is never managed.
+        Its announcement is not enough: a window that is mapped before it listens is never managed.
         """
         if self._x.numbers(self._x.root, '_NET_CURRENT_DESKTOP') == [desktop]:
             return True
@@ -65,7 +65,8 @@ class Windows:
         pid = x.numbers(number, '_NET_WM_PID')
         return Window(number, x.text(number, '_NET_WM_NAME', 'WM_NAME'),
                       x.text(number, 'WM_CLASS').strip('\0').split('\0')[-1], pid[0] if pid else 0, *geometry,
-                      *attributes, self._words(number, '_NET_WM_WINDOW_TYPE'), self._words(number, '_NET_WM_STATE'))
+                      *attributes, self._words(number, '_NET_WM_WINDOW_TYPE'),
+                      self._words(number, '_NET_WM_STATE'))
 
     def _words(self, number, name):
         return [self._x.atom_name(atom).removeprefix(name + '_') for atom in self._x.numbers(number, name)]
@@ -73,7 +74,8 @@ class Windows:
     def all(self, hidden=False):
         """Top-level windows: the managed ones, then menus, tool tips and the like that no manager knows."""
         numbers = self._x.numbers(self._x.root, '_NET_CLIENT_LIST_STACKING')
-        numbers += [n for n in self._x.children(self._x.root) if n not in numbers and self._x.property(n, 'WM_CLASS')]
+        others = [n for n in self._x.children(self._x.root) if n not in numbers]
+        numbers += [n for n in others if self._x.property(n, 'WM_CLASS')]
         found = [w for w in map(self.window, numbers) if w]
         return [w for w in found if w.visible or hidden]
 
@@ -91,7 +93,7 @@ class Windows:
         return self.window(number[0]) if number and number[0] else None
 
     def activations(self):
-        """How often the active window has changed so far: equal numbers mean that nobody took the focus meanwhile."""
+        """How often the active window has changed so far: equal numbers mean that nobody took the focus."""
         self._activations += self._x.events().count((EVENT_PROPERTY, '_NET_ACTIVE_WINDOW'))
         return self._activations
 

@@ -132,8 +132,9 @@ class XConnection:
     # Events
 
     def watch_root(self):
-        """Property changes of the root window and the showing and hiding of its children arrive from now on."""
-        self._send(2, 0, struct.pack('<III', self.root, _EVENT_MASK_ATTRIBUTE, PROPERTY_CHANGES | SUBSTRUCTURE_CHANGES))
+        """Property changes of the root window and what happens to its children arrive from now on."""
+        wanted = PROPERTY_CHANGES | SUBSTRUCTURE_CHANGES
+        self._send(2, 0, struct.pack('<III', self.root, _EVENT_MASK_ATTRIBUTE, wanted))
 
     def events(self):
         """What has arrived since the last call: (code, window or name of the changed property)."""

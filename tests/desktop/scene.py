@@ -1,0 +1,96 @@
+# SPDX-FileCopyrightText: 2026 The qmClient authors
+# SPDX-License-Identifier: GPL-3.0-or-later
+"""A test's world: a desktop with a tray, a share with mailboxes, the client's settings, the client."""
+import contextlib
+import csv
+import os
+import subprocess
+import unittest
+
+from client import Client
+from desktop import Desktop
+from site_folder import database, mailbox_folder, program, write_settings
+
+FIRST, SECOND = 12, 15
+_NAMES = {FIRST: 'Reception', SECOND: 'Service'}
+
+
+class SceneTest(unittest.TestCase):
+    """Each test begins with an empty share; everything ends with the test."""
+
+    lang = 'C.UTF-8'
+
+    def setUp(self):
+        stack = contextlib.ExitStack()
+        self.addCleanup(stack.close)
+        self.desktop = stack.enter_context(Desktop('1024x768', lang=self.lang, tray='trayer',
+                                                   accessibility=True))
+        self.share = self.desktop.folder / 'share'
+        (self.share / 'MBX').mkdir(parents=True)
+
+    def start(self, calls, **settings):
+        """The client over mailboxes with so many calls, {number: calls}: listed, counted, its window hidden."""
+        for number, count in calls.items():
+            self.make_mailbox(number, count)
+        self.write_settings(calls, **settings)
+        client = Client(self.desktop)
+        client.open()
+        client.wait_rows(next(iter(calls.values())))
+        client.hide()
+        return client
+
+    def start_without_calls(self, line, numbers=(FIRST,), **settings):
+        """The client whose list has nothing but a line to show, and is shown."""
+        self.write_settings(numbers, **settings)
+        client = Client(self.desktop)
+        client.open()
+        client.wait_line(line)
+        return client
+
+    def write_settings(self, numbers, **settings):
+        write_settings(self.desktop.env['XDG_CONFIG_HOME'], settings.pop('share', self.share),
+                       {number: _NAMES[number] for number in numbers}, **settings)
+
+    # The server's side
+
+    def make_mailbox(self, number, calls):
+        mailbox_folder(self.share, number).mkdir()
+        run('qmbenchdb', database(self.share, number), calls, '--calls')
+
+    def add_calls(self, number, calls):
+        """One after the other, as the server logs them."""
+        run('qmdemo', self.share, '--mailbox', number, '--calls', calls, '--every', '0.001')
+
+    def empty(self, number):
+        """As the server does it: nothing is left of the old file."""
+        emptied = self.desktop.folder / 'emptied.mdb'
+        run('qmbenchdb', emptied, 0, '--calls')
+        self.replace(number, emptied.read_bytes())
+
+    def replace(self, number, contents):
+        """Puts other bytes in the place of a mailbox's database in one step; None takes it away."""
+        path = database(self.share, number)
+        if path.is_dir():
+            path.rmdir()
+        if contents is None:
+            path.unlink()
+            return
+        other = path.with_suffix('.new')
+        other.write_bytes(contents)
+        os.replace(other, path)
+
+    def replace_by_folder(self, number):
+        database(self.share, number).unlink()
+        database(self.share, number).mkdir()
+
+    def calls_by_mdbtools(self, number):
+        """The rows as an independent reader sees them, oldest first."""
+        exported = self.desktop.run(['mdb-export', database(self.share, number), 'CallLog'])
+        return list(csv.DictReader(exported.splitlines()))
+
+    def keep(self, number):
+        return database(self.share, number).read_bytes()
+
+
+def run(name, *words):
+    subprocess.run([program(name), *map(str, words)], check=True, capture_output=True)
