@@ -1,0 +1,47 @@
+// SPDX-FileCopyrightText: 2026 The qmClient authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "bench/OurTable.h"
+
+#include "platform/basic/DateTimeFormat.h"
+#include "platform/basic/VariantText.h"
+
+namespace bench {
+namespace {
+
+share::ShareResolver mappedTo(const std::string& folder) {
+    return {[folder](std::string_view) { return folder; }, [] { return std::string(); }};
+}
+
+std::size_t sizeOfText(const basic::Variant& value, const basic::DateTimeFormat& format) {
+    return basic::isNull(value) ? 0 : basic::toText(value, format).size();
+}
+
+} // namespace
+
+OurTable::OurTable(const std::string& folder, const std::string& file)
+    : m_connectionString("Provider=Microsoft.Jet.OLEDB.4.0;Jet OLEDB:Database Locking Mode=1;"
+                         "Data Source=\\\\bench\\Quillamar_0$\\" +
+                         file),
+      m_files(mappedTo(folder)), m_engine(m_files) {}
+
+std::int64_t OurTable::count() {
+    jet::Connection connection(m_engine);
+    connection.Open(m_connectionString);
+    const auto rows = connection.Execute("SELECT COUNT(*) FROM CallLog");
+    return std::get<std::int32_t>(rows->Field(0));
+}
+
+std::size_t OurTable::readAll() {
+    jet::Connection connection(m_engine);
+    connection.Open(m_connectionString);
+    const auto rows = connection.Execute("SELECT * FROM CallLog");
+    const basic::DateTimeFormat format;
+    std::size_t total = 0;
+    for (; !rows->eof(); rows->MoveNext()) {
+        for (std::size_t column = 0; column < rows->fieldCount(); ++column)
+            total += sizeOfText(rows->Field(column), format);
+    }
+    return total;
+}
+
+} // namespace bench
