@@ -50,9 +50,7 @@ QLineEdit* addField(QGridLayout& grid, const QString& name, const std::string& c
 QPlainTextEdit* addTextBox(QGridLayout& grid, const QString& name, const std::string& caption) {
     auto* box = new QPlainTextEdit;
     box->setObjectName(QStringLiteral("txt") + name);
-    box->setReadOnly(true);
-    box->setTabChangesFocus(true);
-    // The keyboard reaches and scrolls it too, so a long description is no mouse matter.
+    // Not to be edited; the keyboard reaches and scrolls it too, so a long description is no mouse matter.
     box->setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
     box->setMinimumHeight(4 * box->fontMetrics().lineSpacing());
     addLabel(grid, *box, QStringLiteral("lbl") + name, caption, Qt::AlignTop);

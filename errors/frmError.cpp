@@ -20,7 +20,7 @@ namespace errors {
 namespace {
 
 // Wide enough for comfortable lines of the explanation in the font of the moment.
-constexpr int kLineLength = 84;
+constexpr int kLineLength = 100;
 
 void showFromItsStart(QLineEdit& field, const QString& text) {
     field.setText(text);

@@ -149,6 +149,19 @@ TEST_F(frmErrorTest, ReturnAbortsWhereverTheFocusOfTheFailureBeforeWas) {
     EXPECT_EQ(dialog->answer(), "A");
 }
 
+TEST_F(frmErrorTest, ReturnInAFieldAborts) {
+    m_state.detailsExpanded = true;
+    const auto dialog = make();
+    for (const char* name : {"txtModule", "txtError"}) {
+        dialog->Init();
+        show(*dialog, [&] {
+            control<QWidget>(*dialog, name)->setFocus();
+            QTest::keyClick(QApplication::focusWidget(), Qt::Key_Return);
+        });
+        EXPECT_EQ(dialog->answer(), "A") << name;
+    }
+}
+
 TEST_F(frmErrorTest, AccessKeysAreTheFirstLettersOfTheCaptions) {
     const std::vector<std::tuple<Language, Qt::Key, std::string>> keys{
         {Language::English, Qt::Key_I, "I"}, {Language::English, Qt::Key_T, "R"},
