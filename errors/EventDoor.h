@@ -11,7 +11,6 @@
 
 #include "errors/Procedure.h"
 
-#include <source_location>
 #include <string_view>
 #include <utility>
 
@@ -23,9 +22,9 @@ public:
 
     template <typename Handler>
     void run(std::string_view module, std::string_view procedure, Handler&& handler,
-             std::source_location where = std::source_location::current()) const {
+             SourceLine line = SourceLine::here()) const {
         Procedure proc(m_handler, module, procedure);
-        proc.step(std::forward<Handler>(handler), where);
+        proc.step(std::forward<Handler>(handler), line);
     }
 
 private:

@@ -18,10 +18,10 @@
 // ends it, or it tests running(). Lives on the stack of the procedure, on the user-interface thread.
 
 #include "errors/ErrorHandler.h"
+#include "errors/SourceLine.h"
 
 #include <cstdint>
 #include <exception>
-#include <source_location>
 #include <string_view>
 #include <utility>
 
@@ -45,13 +45,13 @@ public:
 
     // Runs one statement under the trap. Answers whether it was carried out in the end.
     template <typename Statement>
-    bool step(Statement&& statement, std::source_location where = std::source_location::current()) {
+    bool step(Statement&& statement, SourceLine line = SourceLine::here()) {
         while (running()) {
             try {
                 statement();
                 return true;
             } catch (...) {
-                if (!answered(std::current_exception(), static_cast<std::int32_t>(where.line())))
+                if (!answered(std::current_exception(), line.number))
                     return false;
             }
         }
@@ -60,10 +60,9 @@ public:
 
     // A statement that yields a value; `fallback` is the value when it was ignored, aborted or skipped.
     template <typename Result, typename Expression>
-    Result value(Result fallback, Expression&& expression,
-                 std::source_location where = std::source_location::current()) {
+    Result value(Result fallback, Expression&& expression, SourceLine line = SourceLine::here()) {
         Result result = std::move(fallback);
-        step([&] { result = expression(); }, where);
+        step([&] { result = expression(); }, line);
         return result;
     }
 

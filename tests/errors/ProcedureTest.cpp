@@ -30,7 +30,7 @@ TEST(Procedure, ReportsUnderItsNamesWithNumberAndDescription) {
 TEST(Procedure, ReportsTheLineOfTheStep) {
     RecordingErrorHandler handler{ErrorAction::Ignore, ErrorAction::Ignore};
     Procedure proc{handler, "m", "p"};
-    const auto line = static_cast<std::int32_t>(std::source_location::current().line());
+    const std::int32_t line = __LINE__;
     proc.step([] { fail(); });
     proc.value(0, []() -> int { fail(); });
     ASSERT_EQ(handler.reports.size(), 2U);
