@@ -16,12 +16,13 @@ constexpr int kCharacters = 44;
 DescriptionLabel::DescriptionLabel(QMainWindow& window) : QLabel(&window) {
     setObjectName(QStringLiteral("lblDescription"));
     setTextFormat(Qt::PlainText);
+    setIndent(fontMetrics().averageCharWidth());
     setSizePolicy(QSizePolicy::Maximum, QSizePolicy::Preferred);
     window.installEventFilter(this);
 }
 
 QSize DescriptionLabel::sizeHint() const {
-    return {kCharacters * fontMetrics().averageCharWidth(), fontMetrics().height()};
+    return {(kCharacters + 2) * fontMetrics().averageCharWidth(), fontMetrics().height()};
 }
 
 QSize DescriptionLabel::minimumSizeHint() const {
@@ -42,7 +43,7 @@ void DescriptionLabel::resizeEvent(QResizeEvent* event) {
 }
 
 void DescriptionLabel::renewText() {
-    setText(fontMetrics().elidedText(m_description, Qt::ElideRight, width()));
+    setText(fontMetrics().elidedText(m_description, Qt::ElideRight, width() - 2 * indent()));
 }
 
 } // namespace forms

@@ -54,7 +54,7 @@ Tab TabCollection::Item(std::string_view key) const {
 }
 
 TabStrip::TabStrip(QWidget* parent) : QWidget(parent), m_tabs(*this), m_bar(new QTabBar(this)) {
-    m_bar->setDrawBase(true);
+    m_bar->setDrawBase(false);
     m_bar->setExpanding(false);
     m_bar->setUsesScrollButtons(true);
     m_bar->setElideMode(Qt::ElideNone);
