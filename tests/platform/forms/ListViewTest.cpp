@@ -98,6 +98,14 @@ TEST_F(ListViewTest, AUserClickAfterSelectingByTheProgramCountsOnTopOfIt) {
     EXPECT_THAT(keysSelected(), ElementsAre("K1", "K2", "K4"));
 }
 
+TEST_F(ListViewTest, AUserClickRightAfterSelectingByTheProgramReplacesIt) {
+    fill(4);
+    list.ListItems().Item(1).SetSelected(true);
+    list.ListItems().Item(2).SetSelected(true);
+    click(4);
+    EXPECT_THAT(keysSelected(), ElementsAre("K4"));
+}
+
 TEST_F(ListViewTest, AClickOnTheEmptyPartDeselectsAndIsTold) {
     fill(2);
     click(1);
