@@ -2,14 +2,26 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "tray/LinkLabel.h"
 
+#include <QColor>
 #include <QEvent>
 #include <QFontMetrics>
 #include <QPainter>
+#include <QPalette>
 
 namespace tray {
 namespace {
 
 constexpr int kMargin = 4; // room around the text that can be clicked, too
+constexpr int kDark = 128;
+constexpr int kReadableOnDark = 190;
+
+// Palettes of dark themes often keep the deep blue that suits light ones.
+QColor linkColour(const QPalette& palette, QPalette::ColorRole role) {
+    const QColor colour = palette.color(role);
+    if (palette.color(QPalette::Window).lightness() >= kDark || colour.lightness() >= kReadableOnDark)
+        return colour;
+    return QColor::fromHsl(colour.hslHue(), colour.hslSaturation(), kReadableOnDark);
+}
 
 } // namespace
 
@@ -32,7 +44,7 @@ void LinkLabel::paintEvent(QPaintEvent*) {
     QFont drawn = font();
     drawn.setUnderline(underMouse());
     painter.setFont(drawn);
-    painter.setPen(palette().color(isDown() ? QPalette::LinkVisited : QPalette::Link));
+    painter.setPen(linkColour(palette(), isDown() ? QPalette::LinkVisited : QPalette::Link));
     painter.drawText(rect(), Qt::AlignCenter | Qt::TextSingleLine, text());
 }
 
