@@ -38,7 +38,7 @@ public:
     // The data library's type numbers: 11 for a Boolean.
     std::int32_t fieldType(std::size_t index) const { return column(index).type; }
     std::int32_t fieldType(std::string_view name) const { return column(indexOf(name)).type; }
-    // Names compare without case; of equal names the first one is meant.
+    // Names compare without case; a name in the same case goes first, then the first equal one.
     basic::Variant Field(std::size_t index) const;
     basic::Variant Field(std::string_view name) const { return Field(indexOf(name)); }
 
