@@ -44,4 +44,18 @@ std::size_t OurTable::readAll() {
     return total;
 }
 
+std::size_t OurTable::readForList() {
+    jet::Connection connection(m_engine);
+    connection.Open(m_connectionString);
+    const auto rows =
+        connection.Execute("SELECT *, MessageLength & 's' AS MessageLengthS FROM CallLog ORDER BY ID DESC");
+    const basic::DateTimeFormat format;
+    std::size_t total = 0;
+    for (; !rows->eof(); rows->MoveNext()) {
+        for (const char* column : {"CallID", "CallDate", "CallerID", "CallerName", "MessageLengthS"})
+            total += sizeOfText(rows->Field(column), format);
+    }
+    return total;
+}
+
 } // namespace bench

@@ -20,8 +20,10 @@ public:
 
     // What a poll does for one mailbox.
     std::int64_t count();
-    // What the list does: every column of every row; answers the bytes of all texts.
+    // Every column of every row; answers the bytes of all texts.
     std::size_t readAll();
+    // The statement of the call list, newest first, with the columns that it shows.
+    std::size_t readForList();
 
 private:
     std::string m_connectionString;

@@ -23,12 +23,19 @@ void readOurs(benchmark::State& state) {
         expectText(table.readAll());
 }
 
+void listOurs(benchmark::State& state) {
+    bench::OurTable table(bench::folder(), bench::callsFile());
+    for (auto _ : state)
+        expectText(table.readForList());
+}
+
 void readLibmdb(benchmark::State& state) {
     for (auto _ : state)
         expectText(bench::LibmdbTable(bench::folder() + "/" + bench::callsFile(), "CallLog").readAll());
 }
 
 BENCHMARK(readOurs)->Unit(benchmark::kMillisecond);
+BENCHMARK(listOurs)->Unit(benchmark::kMillisecond);
 BENCHMARK(readLibmdb)->Unit(benchmark::kMillisecond);
 
 } // namespace
