@@ -61,7 +61,8 @@ class Soak:
         self._looks += 1
 
     def _logs(self):
-        return [p for p in self._desktop.folder.rglob('*.log') if p.parent.name != 'logs']
+        # Where the client would write one: its current directory and the user's state.
+        return [p for name in ('home', 'state') for p in (self._desktop.folder / name).rglob('*.log')]
 
     @staticmethod
     def _say(client, when):
