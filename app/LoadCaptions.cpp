@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "app/LoadCaptions.h"
 
+#include "app/CommandBarLayout.h"
 #include "platform/forms/Text.h"
 #include "resources/StringTable.h"
 
@@ -66,6 +67,14 @@ std::string text(std::int32_t id, const char* english) {
     return resources::LoadLocalString(id, english);
 }
 
+// Buttons that show pictures only are known by these names to who hears the window.
+void nameButtons(forms::Band& status) {
+    status.Tools("miSStop").SetAccessibleName(forms::toQString(text(5030, "Stop")));
+    status.Tools("miSPause").SetAccessibleName(forms::toQString(text(5031, "Pause")));
+    status.Tools("miSRew").SetAccessibleName(forms::toQString(text(5032, "Rewind")));
+    status.Tools("miSFwd").SetAccessibleName(forms::toQString(text(5033, "Fast forward")));
+}
+
 } // namespace
 
 void LoadCaptions(QWidget& window, forms::CommandBar& ab) {
@@ -82,6 +91,7 @@ void LoadCaptions(QWidget& window, forms::CommandBar& ab) {
     }
     for (const BandText& entry : kBands)
         ab.Bands(entry.band).SetCaption(text(entry.id, entry.english));
+    nameButtons(ab.Bands(kBandStatus));
 }
 
 } // namespace app

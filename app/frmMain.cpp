@@ -32,9 +32,9 @@ QString text(std::int32_t id, std::string_view english) {
 forms::ImageList listImages() {
     forms::ImageList images;
     images.Set(resources::kCallWithMessage, resources::callIcon(resources::kCallWithMessage),
-               text(5014, "Message recorded"));
+               text(5014, "Call with a recorded message"));
     images.Set(resources::kCallWithoutMessage, resources::callIcon(resources::kCallWithoutMessage),
-               text(5015, "No message"));
+               text(5015, "Call without a message"));
     return images;
 }
 
