@@ -29,6 +29,7 @@ private:
     struct Entry {
         std::vector<std::byte> key;
         RowPointer row;
+        // NOLINTNEXTLINE(modernize-use-nullptr): the check takes the defaulted operator for a null pointer
         auto operator<=>(const Entry&) const = default;
     };
 

@@ -19,6 +19,7 @@ struct RowPointer {
         return {stored >> 8U, static_cast<std::uint8_t>(stored & 0xFFU)};
     }
     constexpr std::uint32_t stored() const noexcept { return page << 8U | row; }
+    // NOLINTNEXTLINE(modernize-use-nullptr): the check takes the defaulted operator for a null pointer
     constexpr auto operator<=>(const RowPointer&) const = default;
 };
 
