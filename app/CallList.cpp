@@ -40,7 +40,7 @@ void CallList::LoadList() {
 void CallList::loadOnce() {
     errors::Procedure proc{m_parts.errorHandler, "frmMain", "LoadList"};
     const auto config = m_parts.state.config;
-    if (config->Mailboxes.Count() == 0) {
+    if (!config->watchesMailboxes()) {
         showNoMailboxes(proc);
         return;
     }

@@ -25,7 +25,7 @@ void Selection::ChangeItem() {
     std::string callID = "-1";
     const auto config = m_parts.state.config;
     const auto item = m_parts.list.SelectedItem();
-    if (config && config->Mailboxes.Count() > 0 && item) {
+    if (config && config->watchesMailboxes() && item) {
         const auto tab = m_parts.tabStrip.SelectedItem();
         const bool oneMailbox = m_parts.tabStrip.Tabs().Count() < 2;
         if (tab || oneMailbox) {

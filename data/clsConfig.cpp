@@ -13,6 +13,8 @@ namespace {
 
 using registry::Root;
 
+constexpr std::string_view kNoMailboxKey = "KEY"; // an empty store has no name behind it
+
 std::string clientKey() {
     return std::string(kSettingsKey) + "\\Client";
 }
@@ -33,6 +35,10 @@ clsConfig::clsConfig(registry::Registry& registry, forms::MessageBoxes& boxes, e
 void clsConfig::Class_Initialize() {
     errors::Procedure proc{m_errors, "clsConfig", "Class_Initialize"};
     proc.step([&] { PollInterval = kDefaultPollInterval; });
+}
+
+bool clsConfig::watchesMailboxes() const {
+    return Mailboxes.Count() > 1 || (Mailboxes.Count() == 1 && Mailboxes.keyAt(1) != kNoMailboxKey);
 }
 
 bool clsConfig::Clear() {

@@ -39,6 +39,8 @@ public:
     bool SaveConfig();
     // Forgets the mailboxes; server and interval stay.
     bool Clear();
+    // Whether the user watches a mailbox at all: the one that stands for an empty store does not count.
+    bool watchesMailboxes() const;
 
     std::string ServerName;
     std::int32_t PollInterval = 0;

@@ -3,7 +3,8 @@
 #pragma once
 // Every error number the program raises, defined once, with the text the platform gives it. Positive numbers
 // are run-time errors of the platform's basic language, negative ones are the data provider's HRESULTs as
-// signed 32-bit numbers. errorText() answers the stock text; callers add the context (file, table, page, row).
+// signed 32-bit numbers. errorText() answers the stock text; callers add the context (file, table, page,
+// row).
 
 #include <cstdint>
 #include <string_view>
@@ -38,13 +39,13 @@ inline constexpr std::int32_t kObjectClosed = 3704;
 inline constexpr std::int32_t kObjectOpen = 3705;
 inline constexpr std::int32_t kProviderNotFound = 3706;
 
-inline constexpr std::int32_t kProviderFailure = -2147467259;     // E_FAIL: open, read, damaged, locked
-inline constexpr std::int32_t kProviderSyntax = -2147217900;      // DB_E_ERRORSINCOMMAND
-inline constexpr std::int32_t kProviderNoTable = -2147217865;     // DB_E_NOTABLE
-inline constexpr std::int32_t kProviderNoValue = -2147217904;     // DB_E_PARAMNOTOPTIONAL: unknown column
-inline constexpr std::int32_t kProviderIntegrity = -2147217873;   // DB_E_INTEGRITYVIOLATION: duplicate key
-inline constexpr std::int32_t kProviderMismatch = -2147217913;    // DB_E_DATATYPEMISMATCH in a condition
-inline constexpr std::int32_t kProviderReadOnly = -2147217911;    // DB_SEC_E_PERMISSIONDENIED
+inline constexpr std::int32_t kProviderFailure = -2147467259;   // E_FAIL: open, read, damaged, locked
+inline constexpr std::int32_t kProviderSyntax = -2147217900;    // DB_E_ERRORSINCOMMAND
+inline constexpr std::int32_t kProviderNoTable = -2147217865;   // DB_E_NOTABLE
+inline constexpr std::int32_t kProviderNoValue = -2147217904;   // DB_E_PARAMNOTOPTIONAL: unknown column
+inline constexpr std::int32_t kProviderIntegrity = -2147217873; // DB_E_INTEGRITYVIOLATION: duplicate key
+inline constexpr std::int32_t kProviderMismatch = -2147217913;  // DB_E_DATATYPEMISMATCH in a condition
+inline constexpr std::int32_t kProviderReadOnly = -2147217911;  // DB_SEC_E_PERMISSIONDENIED
 
 // The platform's text for a number; a general one for a number that is not listed. Never empty.
 std::string_view errorText(std::int32_t number) noexcept;

@@ -29,8 +29,8 @@ private:
     std::string m_description;
 };
 
-// The platform's number for a POSIX errno value (ENOENT: 53, EACCES: 70, ENOSPC: 61, ENOMEM: 7, any other: 75),
-// with a description "<what>: <path>: <system's text>".
+// The platform's number for a POSIX errno value (ENOENT: 53, EACCES: 70, ENOSPC: 61, ENOMEM: 7, any other:
+// 75), with a description "<what>: <path>: <system's text>".
 RuntimeError errorFromErrno(int errnoValue, std::string_view what, std::string_view path);
 
 } // namespace basic

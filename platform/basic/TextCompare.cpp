@@ -20,14 +20,23 @@ struct UpperRange {
 };
 
 constexpr std::array kUpperRanges{
-    UpperRange{U'A', U'Z', 32},     UpperRange{0x00C0, 0x00D6, 32}, // À to Ö; the multiplication sign in the
-                                                                    // gap is no letter
+    UpperRange{U'A', U'Z', 32},
+    UpperRange{0x00C0, 0x00D6, 32}, // À to Ö; the multiplication sign in the
+                                    // gap is no letter
     UpperRange{0x00D8, 0x00DE, 32}, // Ø to Þ
-    UpperRange{0x0100, 0x012E, 1},  UpperRange{0x0132, 0x0136, 1},  UpperRange{0x0139, 0x0147, 1},
-    UpperRange{0x014A, 0x0176, 1},  UpperRange{0x0179, 0x017D, 1},  UpperRange{0x0391, 0x03A1, 32}, // Greek
-    UpperRange{0x03A3, 0x03AB, 32}, UpperRange{0x0400, 0x040F, 80}, // Cyrillic
-    UpperRange{0x0410, 0x042F, 32}, UpperRange{0x0460, 0x0480, 1},  UpperRange{0x048A, 0x04BE, 1},
-    UpperRange{0x1E00, 0x1E94, 1},  UpperRange{0x1EA0, 0x1EFE, 1},
+    UpperRange{0x0100, 0x012E, 1},
+    UpperRange{0x0132, 0x0136, 1},
+    UpperRange{0x0139, 0x0147, 1},
+    UpperRange{0x014A, 0x0176, 1},
+    UpperRange{0x0179, 0x017D, 1},
+    UpperRange{0x0391, 0x03A1, 32}, // Greek
+    UpperRange{0x03A3, 0x03AB, 32},
+    UpperRange{0x0400, 0x040F, 80}, // Cyrillic
+    UpperRange{0x0410, 0x042F, 32},
+    UpperRange{0x0460, 0x0480, 1},
+    UpperRange{0x048A, 0x04BE, 1},
+    UpperRange{0x1E00, 0x1E94, 1},
+    UpperRange{0x1EA0, 0x1EFE, 1},
 };
 
 char32_t lowerOf(char32_t c) noexcept {

@@ -1,7 +1,8 @@
 // SPDX-FileCopyrightText: 2026 The qmClient authors
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
-// The forms' unit of length: 15 twips are one logical pixel (1440 twips to the inch at 96 pixels to the inch).
+// The forms' unit of length: 15 twips are one logical pixel (1440 twips to the inch at 96 pixels to the
+// inch).
 
 #include <compare>
 #include <cstdint>
@@ -16,7 +17,11 @@ struct Twips {
 };
 
 // Rounds towards zero, as the platform's integer division does.
-constexpr std::int32_t toPixels(Twips length) noexcept { return length.value / kTwipsPerPixel; }
-constexpr Twips fromPixels(std::int32_t pixels) noexcept { return {pixels * kTwipsPerPixel}; }
+constexpr std::int32_t toPixels(Twips length) noexcept {
+    return length.value / kTwipsPerPixel;
+}
+constexpr Twips fromPixels(std::int32_t pixels) noexcept {
+    return {pixels * kTwipsPerPixel};
+}
 
 } // namespace basic

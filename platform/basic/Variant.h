@@ -46,9 +46,11 @@ struct Decimal {
 
 using Binary = std::vector<std::uint8_t>;
 
-using Variant = std::variant<Null, bool, std::uint8_t, std::int16_t, std::int32_t, float, double, Currency, Date,
-                             Guid, Decimal, Binary, std::string>;
+using Variant = std::variant<Null, bool, std::uint8_t, std::int16_t, std::int32_t, float, double, Currency,
+                             Date, Guid, Decimal, Binary, std::string>;
 
-inline bool isNull(const Variant& value) noexcept { return std::holds_alternative<Null>(value); }
+inline bool isNull(const Variant& value) noexcept {
+    return std::holds_alternative<Null>(value);
+}
 
 } // namespace basic

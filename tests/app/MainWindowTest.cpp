@@ -192,6 +192,14 @@ TEST_F(MainWindowTest, NoMailboxesAnnouncesNoCall) {
     EXPECT_EQ(onlyLine(), "There are currently no mailboxes configured.");
 }
 
+TEST_F(MainWindowTest, EmptyStoreShowsThatNoMailboxesAreConfigured) {
+    configure({});
+    load();
+    EXPECT_EQ(onlyLine(), "There are currently no mailboxes configured.");
+    EXPECT_TRUE(list().HideColumnHeaders());
+    EXPECT_EQ(tabs().Count(), 0);
+}
+
 TEST_F(MainWindowTest, UnknownToolNameDoesNothing) {
     configure({});
     load();

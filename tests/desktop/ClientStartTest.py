@@ -9,6 +9,7 @@ from client import CLOSE, Client  # noqa: E402
 from scene import FIRST, SECOND, SceneTest  # noqa: E402
 
 NO_CONNECTION = 'A connection to the server could not be established.'
+NO_MAILBOXES = 'There are currently no mailboxes configured.'
 
 
 class StartTest(SceneTest):
@@ -49,11 +50,8 @@ class StartTest(SceneTest):
         self.add_calls(FIRST, 1)
         self.assertEqual(client.wait_popup(), 'You have  1  new calls')
 
-    def test_no_mailboxes_are_no_error(self):
-        self.write_settings([])
-        client = Client(self.desktop)
-        client.open()
-        self.assertEqual(client.rows(), [])
+    def test_no_mailboxes_are_said_so(self):
+        client = self.start_without_calls(NO_MAILBOXES, numbers=())
         self.assertEqual(client.tabs(), [])
         self.assertFalse(client.ignore_errors())
 

@@ -15,7 +15,9 @@ TEST(RuntimeError, CarriesNumberAndStockText) {
     EXPECT_EQ(error.description(), "Overflow");
 }
 
-TEST(RuntimeError, UnknownNumberStillHasAText) { EXPECT_FALSE(errorText(31337).empty()); }
+TEST(RuntimeError, UnknownNumberStillHasAText) {
+    EXPECT_FALSE(errorText(31337).empty());
+}
 
 TEST(RuntimeError, ErrnoBecomesThePlatformsNumberWithContext) {
     EXPECT_EQ(errorFromErrno(ENOENT, "open", "/x").number(), kFileNotFound);

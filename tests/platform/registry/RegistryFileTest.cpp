@@ -297,7 +297,8 @@ TEST_F(RegistryFileTest, AFileCutAnywhereIsAnErrorOrAPartOfTheTree) {
     for (std::size_t length = 0; length < whole.size(); ++length) {
         RegistryFolder::put(m_path, whole.substr(0, length));
         try {
-            const Key& tree = RegistryFile(m_real, {m_path}).tree();
+            RegistryFile file(m_real, {m_path});
+            const Key& tree = file.tree();
             EXPECT_LE(tree.keys().size(), 1U) << length;
         } catch (const StoreError& error) {
             EXPECT_NE(error.description().find("registry.reg: line "), std::string::npos)
