@@ -22,7 +22,7 @@ void appendField(std::string& line, std::string_view text) {
 std::string withoutLineEnds(std::string_view text) {
     std::string result(text);
     for (auto at = result.find(kLineEnd); at != std::string::npos; at = result.find(kLineEnd, at))
-        result.replace(at, kLineEnd.size(), " ");
+        result.replace(at, kLineEnd.size(), 1, ' ');
     return result;
 }
 

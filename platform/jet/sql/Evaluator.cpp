@@ -5,6 +5,7 @@
 #include "platform/basic/VariantText.h"
 #include "platform/jet/sql/ValueComparison.h"
 
+#include <compare>
 #include <optional>
 
 namespace jet::sql {
@@ -26,17 +27,17 @@ std::optional<bool> compared(Operator kind, std::partial_ordering order) {
         return std::nullopt;
     switch (kind) {
     case Operator::Equal:
-        return order == 0;
+        return std::is_eq(order);
     case Operator::NotEqual:
-        return order != 0;
+        return std::is_neq(order);
     case Operator::Less:
-        return order < 0;
+        return std::is_lt(order);
     case Operator::Greater:
-        return order > 0;
+        return std::is_gt(order);
     case Operator::LessOrEqual:
-        return order <= 0;
+        return std::is_lteq(order);
     default:
-        return order >= 0;
+        return std::is_gteq(order);
     }
 }
 
