@@ -14,9 +14,9 @@ namespace {
 SniPicture pictureOf(const QIcon& icon, int size) {
     const QImage image = icon.pixmap(QSize(size, size), 1.0).toImage().convertToFormat(QImage::Format_ARGB32);
     SniPicture picture{image.width(), image.height(),
-                       QByteArray(image.width() * image.height() * 4, Qt::Uninitialized)};
+                       QByteArray(qsizetype{4} * image.width() * image.height(), Qt::Uninitialized)};
     char* into = picture.pixels.data();
-    for (int y = 0; y < image.height(); ++y, into += image.width() * 4)
+    for (int y = 0; y < image.height(); ++y, into += qsizetype{4} * image.width())
         qToBigEndian<quint32>(image.constScanLine(y), image.width(), into);
     return picture;
 }
