@@ -1,10 +1,10 @@
 // SPDX-FileCopyrightText: 2026 The qmClient authors
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
-// Draws one SVG file at whatever size and scale is asked for. Two colours in a file are placeholders: kInk
-// becomes the palette's text colour, and on a selected or disabled item both it and kAccent become the colour
-// that text has there, so that a mark never vanishes in the selection. Qt's own engine for SVG icons is a
-// plug-in, which may be missing at run time, and knows nothing of palettes. User-interface thread.
+// Draws one SVG file at whatever size and scale is asked for. Two colours in a file stand for others:
+// kInk becomes the palette's text colour, and on a selected or disabled item both it and kAccent become the
+// colour that text has there, so that a mark never vanishes in the selection. Qt's own engine for SVG icons
+// is a plug-in, which may be missing at run time, and knows nothing of palettes. User-interface thread.
 
 #include <QIconEngine>
 

@@ -29,12 +29,12 @@ std::string settings(const std::vector<int>& mailboxes, int pollSeconds, const s
 } // namespace
 
 void MainWorld::configure(const std::vector<int>& ids, int pollSeconds, const std::string& server) {
-    folder.write("registry.reg", settings(ids, pollSeconds, server));
-    std::filesystem::create_directories(folder.path() / "share/MBX");
+    folder.makeFile("registry.reg", settings(ids, pollSeconds, server));
+    folder.makeFolder("share/MBX");
 }
 
 tests::CallLogFile& MainWorld::mailbox(int id) {
-    const auto file = folder.path() / "share/MBX" / std::to_string(id) / "qmLog.mdb";
+    const auto file = folder.path("share/MBX/" + std::to_string(id) + "/qmLog.mdb");
     const auto [found, isNew] = mailboxes.try_emplace(id, file);
     if (isNew)
         found->second.create();
@@ -42,7 +42,7 @@ tests::CallLogFile& MainWorld::mailbox(int id) {
 }
 
 void MainWorld::removeShare() const {
-    std::filesystem::remove_all(folder.path() / "share");
+    std::filesystem::remove_all(folder.path("share"));
 }
 
 void MainWorld::load() {

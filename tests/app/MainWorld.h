@@ -12,9 +12,9 @@
 #include "platform/registry/Registry.h"
 #include "platform/share/LocalFileSystemObject.h"
 #include "tests/app/CallLogFile.h"
-#include "tests/app/TemporaryFolder.h"
 #include "tests/data/SettingsWorld.h"
 #include "tests/errors/RecordingErrorHandler.h"
+#include "tests/platform/share/TemporaryFolder.h"
 
 #include <gtest/gtest.h>
 
@@ -65,7 +65,7 @@ protected:
     void clickPopup(const char* label);
     void tick() { window->mTimer_ThatTime(); }
 
-    tests::TemporaryFolder folder;
+    share::testing::TemporaryFolder folder;
     errors::RecordingErrorHandler errorHandler;
     data::RecordedBoxes messageBoxes;
     forms::QtClipboard clipboard;
@@ -75,11 +75,10 @@ protected:
     shell::IconTable icons;
     basic::DateTimeFormat format;
     registry::SystemCalls systemCalls;
-    registry::Registry registry{registry::RegistryPaths{(folder.path() / "registry.reg").string(), {}},
-                                systemCalls};
-    share::LocalFileSystemObject files{share::ShareResolver(
-        [this](std::string_view) { return std::optional((folder.path() / "share").string()); },
-        [] { return std::string(); })};
+    registry::Registry registry{registry::RegistryPaths{folder.path("registry.reg"), {}}, systemCalls};
+    share::LocalFileSystemObject files{
+        share::ShareResolver([this](std::string_view) { return std::optional(folder.path("share")); },
+                             [] { return std::string(); })};
     jet::Engine engine{files, [](int) {}};
     data::basCommon common{errorHandler, files, [this] { return std::make_shared<jet::Connection>(engine); }};
     std::map<int, tests::CallLogFile> mailboxes;

@@ -134,7 +134,7 @@ TEST_P(ReplacedDatabase, IsNeverCountedAndNotNewWhenItComesBack) {
     mailbox(12).append(5);
     load();
     const auto file = mailbox(12).path();
-    const auto kept = folder.path() / "kept.mdb";
+    const auto kept = folder.path("kept.mdb");
     std::filesystem::copy_file(file, kept);
     std::filesystem::remove(file);
     if (GetParam() == "folder")

@@ -3,11 +3,11 @@
 #pragma once
 // A new empty folder that is the working directory while the object lives and is removed with it.
 
-#include <cstdlib>
+#include "tests/platform/share/TemporaryFolder.h"
+
 #include <filesystem>
 #include <fstream>
 #include <sstream>
-#include <stdexcept>
 #include <string>
 
 namespace errors {
@@ -20,26 +20,19 @@ inline std::string contentOf(const std::filesystem::path& file) {
 
 class TemporaryFolder {
 public:
-    TemporaryFolder() : m_before(std::filesystem::current_path()) {
-        std::string name = (std::filesystem::temp_directory_path() / "qmClient-XXXXXX").string();
-        if (::mkdtemp(name.data()) == nullptr)
-            throw std::runtime_error("no temporary folder");
-        m_path = name;
-        std::filesystem::current_path(m_path);
-    }
+    TemporaryFolder() : m_before(std::filesystem::current_path()) { std::filesystem::current_path(path()); }
     TemporaryFolder(const TemporaryFolder&) = delete;
     TemporaryFolder& operator=(const TemporaryFolder&) = delete;
     ~TemporaryFolder() {
         std::error_code ignored;
         std::filesystem::current_path(m_before, ignored);
-        std::filesystem::remove_all(m_path, ignored);
     }
 
-    const std::filesystem::path& path() const { return m_path; }
+    std::filesystem::path path() const { return m_folder.path(); }
 
 private:
+    share::testing::TemporaryFolder m_folder;
     std::filesystem::path m_before;
-    std::filesystem::path m_path;
 };
 
 } // namespace errors
