@@ -8,12 +8,13 @@ import re
 import sys
 
 PLATFORM = ["platform/basic", "platform/registry", "platform/share", "platform/jet", "platform/forms",
-            "platform/shell"]
+            "platform/mediagraph", "platform/shell"]
 ALLOWED = {
     "platform/basic": [],
     "platform/registry": ["platform/basic"],
     "platform/share": ["platform/basic"],
     "platform/jet": ["platform/basic", "platform/share"],
+    "platform/mediagraph": ["platform/basic", "platform/share"],
     "platform/forms": ["platform/basic"],
     "platform/shell": ["platform/basic"],
     "resources": ["platform/basic"],

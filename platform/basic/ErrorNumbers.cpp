@@ -29,6 +29,7 @@ constexpr std::array kTexts{
     Entry{kInvalidUseOfNull, "Invalid use of Null"},
     Entry{kInvalidPropertyValue, "Invalid property value"},
     Entry{kNonModalWhileModal, "Can't show non-modal form when modal form is displayed"},
+    Entry{kNoSuchMember, "Object doesn't support this property or method"},
     Entry{kKeyInUse, "This key is already associated with an element of this collection"},
     Entry{kElementNotFound, "Element not found"},
     Entry{kKeyNotUnique, "Key is not unique in collection"},
@@ -45,6 +46,14 @@ constexpr std::array kTexts{
     Entry{kProviderIntegrity, "The change would create duplicate values in an index or primary key"},
     Entry{kProviderMismatch, "Data type mismatch in criteria expression"},
     Entry{kProviderReadOnly, "The database is read-only"},
+    Entry{kMediaStillRunning, "Operation aborted"},
+    Entry{kMediaWrongState, "The operation could not be performed because the filter graph is not running"},
+    Entry{kMediaCannotConnect,
+          "No combination of intermediate filters could be found to make the connection"},
+    Entry{kMediaBadFormat, "The file format is invalid"},
+    Entry{kMediaUnsupported, "Cannot play the file: the audio format is not supported"},
+    Entry{kMediaNoHardware, "Cannot play audio: no audio hardware is available"},
+    Entry{kMediaTimeout, "A time-out has expired"},
 };
 
 } // namespace

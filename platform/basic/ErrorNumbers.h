@@ -2,9 +2,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 // Every error number the program raises, defined once, with the text the platform gives it. Positive numbers
-// are run-time errors of the platform's basic language, negative ones are the data provider's HRESULTs as
-// signed 32-bit numbers. errorText() answers the stock text; callers add the context (file, table, page,
-// row).
+// are run-time errors of the platform's basic language, negative ones are the data provider's and the media
+// graph's HRESULTs as signed 32-bit numbers. errorText() answers the stock text; callers add the context
+// (file, table, page, row).
 
 #include <cstdint>
 #include <string_view>
@@ -28,6 +28,7 @@ inline constexpr std::int32_t kObjectNotSet = 91;
 inline constexpr std::int32_t kInvalidUseOfNull = 94;
 inline constexpr std::int32_t kInvalidPropertyValue = 380;
 inline constexpr std::int32_t kNonModalWhileModal = 401;
+inline constexpr std::int32_t kNoSuchMember = 438;
 inline constexpr std::int32_t kKeyInUse = 457;
 inline constexpr std::int32_t kElementNotFound = 35601;
 inline constexpr std::int32_t kKeyNotUnique = 35602;
@@ -46,6 +47,14 @@ inline constexpr std::int32_t kProviderNoValue = -2147217904;   // DB_E_PARAMNOT
 inline constexpr std::int32_t kProviderIntegrity = -2147217873; // DB_E_INTEGRITYVIOLATION: duplicate key
 inline constexpr std::int32_t kProviderMismatch = -2147217913;  // DB_E_DATATYPEMISMATCH in a condition
 inline constexpr std::int32_t kProviderReadOnly = -2147217911;  // DB_SEC_E_PERMISSIONDENIED
+
+inline constexpr std::int32_t kMediaStillRunning = -2147467260;  // E_ABORT: a wait for the end ran out
+inline constexpr std::int32_t kMediaWrongState = -2147220953;    // VFW_E_WRONG_STATE
+inline constexpr std::int32_t kMediaCannotConnect = -2147220969; // VFW_E_CANNOT_CONNECT
+inline constexpr std::int32_t kMediaBadFormat = -2147220945;     // VFW_E_INVALID_FILE_FORMAT
+inline constexpr std::int32_t kMediaUnsupported = -2147220900;   // VFW_E_UNSUPPORTED_AUDIO: unknown codec
+inline constexpr std::int32_t kMediaNoHardware = -2147220906;    // VFW_E_NO_AUDIO_HARDWARE: no sound server
+inline constexpr std::int32_t kMediaTimeout = -2147220946;       // VFW_E_TIMEOUT: the sound did not start
 
 // The platform's text for a number; a general one for a number that is not listed. Never empty.
 std::string_view errorText(std::int32_t number) noexcept;

@@ -1,0 +1,13 @@
+// SPDX-FileCopyrightText: 2026 The qmClient authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "platform/mediagraph/Waiting.h"
+
+#include <thread>
+
+namespace mediagraph {
+
+void SleepWaiting::pass(std::chrono::milliseconds time) {
+    std::this_thread::sleep_for(time);
+}
+
+} // namespace mediagraph
