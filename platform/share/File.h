@@ -16,6 +16,8 @@ enum class OpenMode {
     Read,      // the file must exist; others may read and write it meanwhile
     ReadWrite, // the file must exist
     Create,    // for reading and writing; the file must not exist yet
+    Exclusive, // ReadWrite, and nobody else at the file where that can be had (excludesOthers); error 55
+               // when somebody has it open
 };
 
 enum class LockKind { Shared, Exclusive };
@@ -29,6 +31,9 @@ public:
 
     // The name it was opened by, for error texts.
     virtual const std::string& name() const = 0;
+    // True when nobody else has the file open or can open it while this object lives: OpenMode::Exclusive
+    // where opening can deny all sharing, as a server does and a local folder does not.
+    virtual bool excludesOthers() const { return false; }
     virtual std::uint64_t size() = 0;
     // Fills `into` from `offset`; answers how many bytes were there, less than asked only at the end.
     virtual std::size_t read(std::uint64_t offset, std::span<std::byte> into) = 0;

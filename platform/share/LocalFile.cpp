@@ -21,6 +21,7 @@ int flagsFor(OpenMode mode) {
     constexpr int kAlways = O_CLOEXEC | O_NOCTTY | O_NONBLOCK;
     switch (mode) {
     case OpenMode::ReadWrite:
+    case OpenMode::Exclusive: // there is no sharing to deny: excludesOthers() stays false
         return kAlways | O_RDWR;
     case OpenMode::Create:
         return kAlways | O_RDWR | O_CREAT | O_EXCL;

@@ -25,6 +25,7 @@ public:
     ~FaultyFile() override { --m_plan.openFiles; }
 
     const std::string& name() const override { return m_behind->name(); }
+    bool excludesOthers() const override { return m_behind->excludesOthers(); }
     std::uint64_t size() override {
         count(m_plan, "size");
         return m_behind->size();

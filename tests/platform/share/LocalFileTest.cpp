@@ -47,6 +47,16 @@ TEST(LocalFile, WritesAndSyncs) {
     EXPECT_EQ(textAt(*LocalFile::open(path, OpenMode::Read), 0, 100), "hellp me");
 }
 
+TEST(LocalFile, ExclusiveCanWriteButDoesNotClaimToExcludeOthers) {
+    const TemporaryFolder folder;
+    const std::string path = folder.makeFile("a", "hello");
+    const auto file = LocalFile::open(path, OpenMode::Exclusive);
+    file->write(4, bytesOf("p"));
+    EXPECT_FALSE(file->excludesOthers());
+    EXPECT_EQ(textAt(*LocalFile::open(path, OpenMode::Read), 0, 100), "hellp");
+    EXPECT_ERROR(basic::kFileNotFound, LocalFile::open(folder.path("none"), OpenMode::Exclusive));
+}
+
 TEST(LocalFile, RefusesToWriteAFileOpenedForReading) {
     const TemporaryFolder folder;
     const auto file = LocalFile::open(folder.makeFile("a", "hello"), OpenMode::Read);
