@@ -15,6 +15,7 @@
 #include "platform/share/MemoryFile.h"
 #include "tests/platform/jet/FailureOf.h"
 #include "tests/platform/jet/WrittenDatabase.h"
+#include "tools/demo/CallLogTable.h"
 
 #include <gmock/gmock.h>
 
@@ -28,7 +29,7 @@ using test::kCreated;
 std::vector<std::byte> callLog(int rows) {
     share::MemoryFile file{{}};
     createDatabase(file, kCreated);
-    createTable(file, test::callLogSpec(), kCreated);
+    createTable(file, demo::callLogTable(), kCreated);
     TableWriter writer(file, "CallLog");
     for (int i = 0; i < rows; ++i) {
         const std::string number = std::to_string(i);

@@ -6,6 +6,7 @@
 #include "platform/share/MemoryFile.h"
 #include "tests/platform/jet/ErrorNumberOf.h"
 #include "tests/platform/jet/WrittenDatabase.h"
+#include "tools/demo/CallLogTable.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
@@ -32,7 +33,7 @@ protected:
 
 class CallLogWriter : public TableWriterTest {
 protected:
-    CallLogWriter() { m_database.createTable(callLogSpec()); }
+    CallLogWriter() { m_database.createTable(demo::callLogTable()); }
 };
 
 TEST_F(CallLogWriter, EmptyTableReadsEmpty) {

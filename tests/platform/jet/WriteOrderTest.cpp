@@ -7,6 +7,7 @@
 #include "platform/share/MemoryFile.h"
 #include "tests/platform/jet/ErrorNumberOf.h"
 #include "tests/platform/jet/WrittenDatabase.h"
+#include "tools/demo/CallLogTable.h"
 
 #include <gtest/gtest.h>
 
@@ -64,7 +65,7 @@ constexpr int kOldRows = 390;
 std::vector<std::byte> filledDatabase() {
     share::MemoryFile file{{}};
     createDatabase(file, kCreated);
-    createTable(file, callLogSpec(), kCreated);
+    createTable(file, demo::callLogTable(), kCreated);
     TableWriter writer(file, "CallLog");
     for (int i = 0; i < kOldRows; ++i) // the second index's next entries split a leaf, the root with it
         writer.insert(call(i, i % 15 == 0 ? 4200 : 10));
@@ -137,12 +138,13 @@ TEST(WriteOrder, FailureWhileATableIsMadeLeavesTheCatalogAsItWas) {
     createDatabase(empty, kCreated);
     const std::vector<std::byte> before = empty.bytes();
     FailingFile counter(empty, 0);
-    createTable(counter, callLogSpec(), kCreated);
+    createTable(counter, demo::callLogTable(), kCreated);
     const std::size_t writes = counter.pages.size();
     for (std::size_t failAt = 1; failAt <= writes; ++failAt) {
         share::MemoryFile memory{before};
         FailingFile file(memory, failAt);
-        ASSERT_EQ(errorNumberOf([&] { createTable(file, callLogSpec(), kCreated); }), basic::kDiskFull);
+        ASSERT_EQ(errorNumberOf([&] { createTable(file, demo::callLogTable(), kCreated); }),
+                  basic::kDiskFull);
         PageReader pages(memory, 0);
         const std::size_t tables = Catalog(pages).userTables().size();
         ASSERT_TRUE(tables == 0 || readRows(memory, "CallLog").empty()) << failAt;
@@ -153,7 +155,7 @@ TEST(WriteOrder, FailureWhileATableIsMadeLeavesTheCatalogAsItWas) {
 TEST(WriteOrder, ReaderBesideAWriterNeverSeesATornCount) {
     constexpr int kRounds = 50;
     WrittenDatabase database;
-    database.createTable(callLogSpec());
+    database.createTable(demo::callLogTable());
     std::jthread writer([&] {
         const auto file = share::LocalFile::open(database.path(), share::OpenMode::ReadWrite);
         for (int i = 0; i < kRounds; ++i) {

@@ -87,20 +87,4 @@ std::string WrittenDatabase::tool(const std::string& program, const std::string&
     return output;
 }
 
-TableSpec callLogSpec() {
-    const auto text = [](const char* name, std::uint16_t size) {
-        return ColumnSpec{.name = name, .type = ColumnType::Text, .size = size, .compressed = true};
-    };
-    return {.name = "CallLog",
-            .columns = {{.name = "ID", .type = ColumnType::Long, .autonumber = true},
-                        text("CallID", 50),
-                        {.name = "CallDate", .type = ColumnType::Date},
-                        text("CallerID", 64),
-                        text("CallerName", 255),
-                        {.name = "MessageLength", .type = ColumnType::Long},
-                        {.name = "CallDetails", .type = ColumnType::Memo, .compressed = true}},
-            .indexes = {{.name = "PrimaryKey", .columns = {{"ID"}}, .primaryKey = true},
-                        {.name = "CallID", .columns = {{"CallID"}}, .unique = true}}};
-}
-
 } // namespace jet::test

@@ -63,7 +63,4 @@ private:
     std::unique_ptr<share::File> m_file;
 };
 
-// ID autonumber and primary key, CallID unique, and the columns of a call log.
-TableSpec callLogSpec();
-
 } // namespace jet::test
