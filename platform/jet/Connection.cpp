@@ -23,7 +23,7 @@ void Connection::Open(std::string_view connectionString) {
     if (State() != 0)
         throw basic::RuntimeError(basic::kObjectOpen);
     std::string path = ConnectionString::parse(connectionString).dataSource();
-    m_engine.readDatabase(path, [](Database&) { return true; });
+    m_engine.checkDatabase(path);
     m_path = std::move(path);
 }
 

@@ -6,6 +6,7 @@
 #include "platform/jet/RowCount.h"
 #include "platform/jet/TableDefinitionReader.h"
 
+#include <array>
 #include <utility>
 
 namespace jet {
@@ -32,7 +33,9 @@ TableDefinition Database::definition(std::string_view table, CatalogHint* hint) 
 
 std::uint32_t Database::count(std::string_view table, CatalogHint* hint) {
     const PageNumber page = findTable(table, hint).definitionPage();
-    return countRows(m_pages, TableHead::read(m_pages, page, table), table);
+    std::array<std::byte, format::definition::kFixedSize> head{};
+    m_pages.readStart(page, head);
+    return countRows(m_pages, TableHead::parse(head, {m_pages.name(), table, page}), table);
 }
 
 } // namespace jet

@@ -5,8 +5,8 @@
 // is no Jet 4 database; nothing else is kept between two calls, so that each sees the file as it is then.
 // Whether it was being written meanwhile is the caller's question to ReadGuard. Owns the file. One thread at
 // a time. Pages read by count(): the header's at opening, then with a good hint the catalog's row and the
-// table's definition; without one also the catalog's definition and map. A definition that says 0 rows costs
-// the table's map and pages on top.
+// beginning of the table's definition; without one also the catalog's definition and map. A definition that
+// says 0 rows costs the table's map and pages on top.
 
 #include "platform/jet/CatalogHint.h"
 #include "platform/jet/DatabaseHeader.h"

@@ -18,6 +18,20 @@ constexpr std::chrono::milliseconds kShortestPause{3};
 
 Engine::Engine(share::FileSystemObject& files, ReadPause pause) : m_files(files), m_pause(std::move(pause)) {}
 
+// The header is one read and nothing else is looked at, so there is nothing to compare the words with.
+void Engine::checkDatabase(std::string_view path) {
+    for (int attempt = 1;; ++attempt) {
+        {
+            const auto file = m_files.openFile(path, share::OpenMode::Read);
+            if (!DatabaseHeader::read(*file).commitWords.isWriting())
+                return;
+            if (attempt == kMaxReadTries)
+                failBusy(*file);
+        }
+        m_pause(attempt);
+    }
+}
+
 CatalogHint& Engine::hint(std::string_view path, std::string_view table) {
     std::string key = basic::foldCase(path) + '\n' + basic::foldCase(table);
     if (m_hints.size() >= kMaximumHints && !m_hints.contains(key))

@@ -25,6 +25,10 @@ public:
     Engine(const Engine&) = delete;
     Engine& operator=(const Engine&) = delete;
 
+    // Opens the file and closes it again: an error when that fails, when it is no database, or when somebody
+    // is said to be writing to it and does not end.
+    void checkDatabase(std::string_view path);
+
     // Opens the database, calls `read` with it and answers its result if nobody wrote meanwhile. Everything
     // that may come of a half-written page, errors and results, is tried again a bounded number of times;
     // the last try's error is believed. The database is closed on return.

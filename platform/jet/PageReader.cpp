@@ -28,17 +28,27 @@ PageBytes PageReader::page(PageNumber number, PageBuffer& buffer) {
     return buffer;
 }
 
+void PageReader::readStart(PageNumber number, std::span<std::byte> into) {
+    checkRange(number, 1);
+    readExactly(number, into);
+    decode(number, into);
+}
+
 void PageReader::readRun(PageNumber first, std::span<std::byte> into) {
     const std::size_t count = into.size() / kPageSize;
     checkRange(first, count);
+    readExactly(first, into);
+    for (std::size_t i = 0; i < count; ++i)
+        decode(static_cast<PageNumber>(first + i), into.subspan(i * kPageSize, kPageSize));
+}
+
+void PageReader::readExactly(PageNumber first, std::span<std::byte> into) {
     const std::size_t got = m_file.read(std::uint64_t{first} * kPageSize, into);
     if (got != into.size()) {
         const auto cut = static_cast<PageNumber>(first + got / kPageSize);
         Place{name(), {}, cut}.fail("the page is cut short: " + std::to_string(kPageSize) +
                                     " bytes expected, " + std::to_string(got % kPageSize) + " there");
     }
-    for (std::size_t i = 0; i < count; ++i)
-        decode(static_cast<PageNumber>(first + i), into.subspan(i * kPageSize, kPageSize));
 }
 
 // The file may have grown since it was opened: its size is asked for again before a number is refused.

@@ -21,11 +21,14 @@ public:
     // A page that is there in part counts; reading it is an error.
     PageNumber pageCount() const override { return m_pageCount; }
     PageBytes page(PageNumber number, PageBuffer& buffer) override;
+    // Reads the beginning of a page only, which is as much as a small `into` takes.
+    void readStart(PageNumber number, std::span<std::byte> into);
     // Reads the pages from `first` on that fill `into`, a multiple of the page size, with one read of the
     // file.
     void readRun(PageNumber first, std::span<std::byte> into);
 
 private:
+    void readExactly(PageNumber first, std::span<std::byte> into);
     void checkRange(PageNumber first, std::size_t count);
     void decode(PageNumber number, std::span<std::byte> page) const;
 

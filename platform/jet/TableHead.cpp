@@ -13,7 +13,7 @@ TableHead TableHead::read(PageSource& source, PageNumber page, std::string_view 
     return parse(source.page(page, buffer), {source.name(), table, page});
 }
 
-TableHead TableHead::parse(PageBytes bytes, const Place& place) {
+TableHead TableHead::parse(std::span<const std::byte> bytes, const Place& place) {
     const ByteView view(bytes, place);
     if (view.u8(format::page::kType) != format::page::kDefinition)
         view.fail("a table definition is expected, the type is " +

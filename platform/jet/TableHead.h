@@ -23,7 +23,8 @@ struct TableHead {
 
     // Throws kProviderFailure unless the page is a table definition's.
     static TableHead read(PageSource& source, PageNumber page, std::string_view table = {});
-    static TableHead parse(PageBytes bytes, const Place& place);
+    // From the beginning of the page, format::definition::kFixedSize bytes or more.
+    static TableHead parse(std::span<const std::byte> bytes, const Place& place);
 };
 
 } // namespace jet

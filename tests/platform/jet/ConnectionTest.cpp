@@ -115,6 +115,35 @@ TEST_F(ConnectionTest, CountCostsFourReadsWhateverTheNumberOfRows) {
     EXPECT_EQ(m_files.reads, 4);
 }
 
+// The header for opening; the header, the catalog's row, the head of the definition and the commit words for
+// counting.
+TEST_F(ConnectionTest, PollReadsNoMoreThanFourPages) {
+    execute(kCount); // the first poll learns where the table is
+    m_files.reads = 0;
+    m_files.bytesRead = 0;
+    Connection connection(m_engine);
+    connection.Open(kConnectionString);
+    EXPECT_EQ(countIn(connection.Execute(kCount)), 3);
+    EXPECT_LE(m_files.bytesRead, 4 * format::page::kSize);
+    EXPECT_EQ(m_files.bytesRead,
+              3 * format::page::kSize + format::definition::kFixedSize + format::commitWords::kSize);
+    EXPECT_EQ(m_files.reads, 5);
+}
+
+TEST_F(ConnectionTest, OpenRefusesADatabaseWhoseWriterDoesNotEnd) {
+    m_files.setWord(kWriterWord, 0);
+    Connection connection(m_engine);
+    EXPECT_ERROR(basic::kProviderFailure, connection.Open(kConnectionString));
+    EXPECT_THAT(m_pauses, ElementsAre(1, 2, 3, 4));
+    EXPECT_EQ(m_files.open, 0);
+}
+
+TEST_F(ConnectionTest, OpenRefusesADatabaseThatIsCutShort) {
+    m_files.bytes.resize(4095);
+    Connection connection(m_engine);
+    EXPECT_ERROR(basic::kProviderFailure, connection.Open(kConnectionString));
+}
+
 TEST_F(ConnectionTest, WritingIsRefusedClearlyAndChangesNothing) {
     const std::vector<std::byte> before = m_files.bytes;
     EXPECT_ERROR(basic::kProviderFailure, execute("DELETE FROM CallLog"));

@@ -28,6 +28,7 @@ public:
         const std::size_t start = static_cast<std::size_t>(offset);
         const std::size_t count = std::min(into.size(), m_system.bytes.size() - start);
         std::copy_n(m_system.bytes.data() + start, count, into.data());
+        m_system.bytesRead += count;
         return count;
     }
     void write(std::uint64_t, std::span<const std::byte>) override {

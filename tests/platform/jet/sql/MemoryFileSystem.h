@@ -21,6 +21,7 @@ public:
     int opened = 0;                           // so far
     int open = 0;                             // at the moment
     int reads = 0;                            // so far
+    std::size_t bytesRead = 0;                // so far
     std::function<void(int read)> beforeRead; // with the number of the read, from 1
 
     void setWord(std::size_t offset, std::uint16_t value);
