@@ -23,6 +23,13 @@ void Timer::SetInterval(std::int32_t milliseconds) {
     restart();
 }
 
+void Timer::SetResting(bool resting) {
+    if (resting == m_resting)
+        return;
+    m_resting = resting;
+    restart();
+}
+
 void Timer::connectNotify(const QMetaMethod&) {
     followHandlers();
 }
@@ -37,7 +44,7 @@ bool Timer::isHandled() const {
 }
 
 void Timer::restart() {
-    if (m_enabled && m_interval > 0 && isHandled())
+    if (m_enabled && !m_resting && m_interval > 0 && isHandled())
         m_timer.start(m_interval);
     else
         m_timer.stop();

@@ -3,8 +3,8 @@
 #pragma once
 // The timer object of the component library: ticks every Interval milliseconds while it is enabled. It is
 // made enabled and without an interval, so it begins to tick when one is set. A tick never overlaps itself:
-// what falls due while a handler runs is dropped. While nobody handles ThatTime nothing wakes the process.
-// User-interface thread.
+// what falls due while a handler runs is dropped. While nobody handles ThatTime, or while its owner has
+// nothing to do with a tick, nothing wakes the process. User-interface thread.
 
 #include <QObject>
 #include <QTimer>
@@ -23,6 +23,11 @@ public:
     std::int32_t Interval() const noexcept { return m_interval; }
     // 0 or less stops it. Setting an interval begins a new one, also if it is the same.
     void SetInterval(std::int32_t milliseconds);
+
+    // The owner's word that a tick would find nothing to do, for as long as that is so. Interval and Enabled
+    // stay as they are.
+    bool Resting() const noexcept { return m_resting; }
+    void SetResting(bool resting);
 
     // Whether the process will be woken.
     bool isTicking() const { return m_timer.isActive(); }
@@ -43,6 +48,7 @@ private:
     QTimer m_timer;
     std::int32_t m_interval = 0;
     bool m_enabled = true;
+    bool m_resting = false;
     bool m_inTick = false;
 };
 

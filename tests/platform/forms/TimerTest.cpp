@@ -58,6 +58,24 @@ TEST(Timer, DoesNotWakeTheProcessWhileNobodyHandlesIt) {
     EXPECT_FALSE(timer.isTicking());
 }
 
+TEST(Timer, DoesNotWakeTheProcessWhileItsOwnerHasNothingToDo) {
+    Timer timer;
+    QSignalSpy ticks(&timer, &Timer::ThatTime);
+    timer.SetResting(true);
+    timer.SetInterval(1);
+    EXPECT_FALSE(timer.isTicking());
+    EXPECT_EQ(timer.Interval(), 1);
+    EXPECT_TRUE(timer.Enabled());
+    timer.SetResting(false);
+    EXPECT_TRUE(timer.isTicking());
+    EXPECT_TRUE(ticks.wait());
+    timer.SetResting(true);
+    EXPECT_FALSE(timer.isTicking());
+    timer.SetEnabled(false);
+    timer.SetResting(false);
+    EXPECT_FALSE(timer.isTicking());
+}
+
 TEST(Timer, StopsOnceTheObjectThatHandledItIsGone) {
     Timer timer;
     auto handler = std::make_unique<QObject>();
