@@ -22,7 +22,9 @@ ALLOWED = {
     "data": ["platform/basic", "platform/registry", "platform/share", "platform/jet", "platform/forms",
              "resources", "errors"],
     "tray": ["platform/basic", "platform/forms", "platform/shell", "resources", "errors"],
-    "app": [*PLATFORM, "resources", "errors", "data", "tray"],
+    "audio": ["platform/basic", "platform/registry", "platform/share", "platform/mediagraph", "platform/forms",
+              "resources", "errors", "data"],
+    "app": [*PLATFORM, "resources", "errors", "data", "tray", "audio"],
 }
 INCLUDE = re.compile(r'^\s*#\s*include\s+"([^"]+)"', re.MULTILINE)
 
