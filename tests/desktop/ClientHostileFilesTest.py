@@ -7,11 +7,26 @@ added, proves that a poll went past the damage without a false count. The total 
 at any time would be in the last announcement, too.
 """
 import random
+import subprocess
 import sys
 import unittest
 
 sys.dont_write_bytecode = True
-from scene import FIRST, SECOND, SceneTest  # noqa: E402
+from scene import FIRST, SECOND, SceneTest, run  # noqa: E402
+from site_folder import database  # noqa: E402
+
+PAGE = 4096
+
+
+def definitions_continued_at(next_page, database):
+    """Every table's definition, but the catalog's on page 2, claims to go on at that page (None: at itself)."""
+    damaged = bytearray(database)
+    for page in range(3, len(database) // PAGE):
+        start = page * PAGE
+        if damaged[start] == 0x02:
+            number = page if next_page is None else next_page
+            damaged[start + 4:start + 12] = number.to_bytes(4, 'little') + (3 * PAGE).to_bytes(4, 'little')
+    return bytes(damaged)
 
 
 class HostileFilesTest(SceneTest):
@@ -49,6 +64,17 @@ class HostileFilesTest(SceneTest):
 
     def test_zeros_behind_a_sound_header(self):
         self.goes_past(lambda: self.replace(FIRST, self.sound[:4096] + bytes(len(self.sound) - 4096)))
+
+    def test_table_definitions_that_point_outside_the_file(self):
+        self.goes_past(lambda: self.damage_definitions(0x00ffffff))
+
+    def test_table_definitions_that_go_on_in_themselves(self):
+        self.goes_past(lambda: self.damage_definitions(None))
+
+    def damage_definitions(self, next_page):
+        self.replace(FIRST, definitions_continued_at(next_page, self.sound))
+        with self.assertRaises(subprocess.CalledProcessError):
+            run('qmjet', 'rows', database(self.share, FIRST), 'CallLog')
 
     def test_missing(self):
         self.goes_past(lambda: self.replace(FIRST, None))

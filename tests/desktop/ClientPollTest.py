@@ -73,6 +73,21 @@ class PollTest(SceneTest):
         self.add_calls(SECOND, 5)
         self.assertEqual(client.wait_popup(7), 'You have  7  new calls')
 
+    def test_ten_thousand_calls_that_come_at_once_are_one_announcement(self):
+        client = self.start({FIRST: 12})
+        self.make_mailbox(SECOND, 12 + 10_000)
+        self.replace(FIRST, self.keep(SECOND))
+        client.wait_popup(10_000)
+        client.click_link(SHOW)
+        client.wait_rows(12 + 10_000)
+        self.add_calls(FIRST, 1)
+        client.wait_popup(1)
+
+    def test_a_server_that_logs_as_fast_as_it_can_is_counted_to_the_last_call(self):
+        client = self.start({FIRST: 12})
+        self.add_calls(FIRST, 100)
+        client.wait_popup(100)
+
     def test_the_close_box_hides_the_window_and_polling_goes_on(self):
         client = self.start({FIRST: 12})
         client.open()

@@ -60,6 +60,18 @@ class StartTest(SceneTest):
         self.add_calls(FIRST, 1)
         client.wait_popup(1)
 
+    def test_text_that_is_no_number_is_reported_and_the_usual_interval_kept(self):
+        self.make_mailbox(FIRST, 1)
+        self.write_settings([FIRST], PollInterval='"often"')
+        client = Client(self.desktop)
+        client.wait_docked()
+        self.desktop.wait_for(client.ignore_errors, 'the error dialog')
+        self.desktop.wait_for(lambda: not client.ignore_errors(), 'the error dialog to be answered')
+        client.open()
+        client.wait_rows(1)
+        self.add_calls(FIRST, 1)
+        client.wait_popup(1, seconds=30)
+
     def test_close_in_the_menu_ends_the_program(self):
         client = self.start({FIRST: 1})
         client.choose(CLOSE)

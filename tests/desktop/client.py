@@ -129,10 +129,11 @@ class Client:
     def ignore_errors(self):
         """Answers an error dialog that stands open; true if there was one."""
         buttons = self._objects('push button', '^(Ignore|Ignorieren)$', showing=True)
-        window = self.desktop.windows.active()
-        if not buttons or not window or window.pid != self.process.pid:
+        dialogs = [w for w in self.desktop.windows.all()
+                   if w.pid == self.process.pid and 'MODAL' in w.states]
+        if not buttons or not dialogs:
             return False
-        self.desktop.click_object(buttons[0], window)
+        self.desktop.click_object(buttons[0], dialogs[0])
         return True
 
     def wait_popup_past_errors(self, number, seconds=30):
