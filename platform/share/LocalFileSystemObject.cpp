@@ -63,19 +63,13 @@ std::vector<std::string> matching(const std::string& folder, const std::string& 
 } // namespace
 
 bool LocalFileSystemObject::FileExists(std::string_view path) {
-    try {
-        return isFile(existing(UncPath::parse(path)));
-    } catch (const basic::RuntimeError&) {
-        return false;
-    }
+    const std::optional<std::string> place = reachable(path);
+    return place && isFile(*place);
 }
 
 bool LocalFileSystemObject::FolderExists(std::string_view path) {
-    try {
-        return isFolder(existing(UncPath::parse(path)));
-    } catch (const basic::RuntimeError&) {
-        return false;
-    }
+    const std::optional<std::string> place = reachable(path);
+    return place && isFolder(*place);
 }
 
 std::vector<std::string> LocalFileSystemObject::SubFolders(std::string_view path) {
@@ -131,7 +125,27 @@ std::string LocalFileSystemObject::existingFolder(const UncPath& path) const {
 }
 
 std::optional<std::string> LocalFileSystemObject::find(const UncPath& path) const {
-    const Route route = m_resolver.resolve(path);
+    return find(m_resolver.resolve(path), path);
+}
+
+// What cannot be looked at counts as not there. Settings that cannot be read are another matter: they say
+// nothing about the file, and the user must hear of them.
+std::optional<std::string> LocalFileSystemObject::reachable(std::string_view path) const {
+    std::optional<UncPath> name;
+    try {
+        name = UncPath::parse(path);
+    } catch (const basic::RuntimeError&) {
+        return std::nullopt;
+    }
+    const Route route = m_resolver.resolve(*name);
+    try {
+        return find(route, *name);
+    } catch (const basic::RuntimeError&) {
+        return std::nullopt;
+    }
+}
+
+std::optional<std::string> LocalFileSystemObject::find(const Route& route, const UncPath& path) {
     if (route.way != Way::Folder)
         throw basic::RuntimeError(basic::kPathNotFound,
                                   "no folder of this machine stands for " + path.text());

@@ -28,6 +28,8 @@ private:
     std::string existingFolder(const UncPath& path) const;
     // Nothing when the last component is missing, error 76 when one on the way is.
     std::optional<std::string> find(const UncPath& path) const;
+    static std::optional<std::string> find(const Route& route, const UncPath& path);
+    std::optional<std::string> reachable(std::string_view path) const;
     std::string placeFor(const UncPath& path, OpenMode mode) const;
 
     ShareResolver m_resolver;

@@ -66,6 +66,16 @@ TEST_F(LocalFileSystemObjectTest, BadNamesAreMissingFilesAndNeverThrow) {
     }
 }
 
+TEST_F(LocalFileSystemObjectTest, SettingsThatCannotBeReadAreNoMissingFile) {
+    LocalFileSystemObject files{ShareResolver(
+        [](std::string_view) -> std::optional<std::string> {
+            throw basic::RuntimeError(basic::kPathFileAccess, "registry.reg, line 3");
+        },
+        {})};
+    EXPECT_ERROR(basic::kPathFileAccess, files.FileExists(unc(R"(\a.txt)")));
+    EXPECT_ERROR(basic::kPathFileAccess, files.FolderExists(unc("")));
+}
+
 TEST_F(LocalFileSystemObjectTest, ComponentsFromDataNeverLeaveTheFolder) {
     const std::string secret = m_folder.makeFile("secret.wav");
     LocalFileSystemObject inner(
