@@ -10,12 +10,11 @@
 
 #include <array>
 #include <cerrno>
-#include <csignal>
+#include <cstddef>
+#include <utility>
 
 namespace app {
 namespace {
-
-constexpr std::array kSignals{SIGTERM, SIGINT, SIGHUP};
 
 // A signal handler reaches nothing but what is global: the writing end, then the reading end.
 std::array<int, 2> g_sockets{-1, -1}; // NOLINT(cppcoreguidelines-avoid-non-const-global-variables)
@@ -25,6 +24,13 @@ extern "C" void noteSignal(int) {
     const char byte = 1;
     [[maybe_unused]] const auto written = ::write(g_sockets[0], &byte, 1);
     errno = before;
+}
+
+struct sigaction noting() {
+    struct sigaction action = {};
+    action.sa_handler = noteSignal;
+    action.sa_flags = SA_RESTART;
+    return action;
 }
 
 } // namespace
@@ -38,23 +44,23 @@ TerminationSignals::TerminationSignals() {
         if (::read(g_sockets[1], &byte, 1) == 1)
             Q_EMIT received();
     });
-    for (const int number : kSignals) {
-        struct sigaction action = {};
-        action.sa_handler = noteSignal;
-        action.sa_flags = SA_RESTART;
-        ::sigaction(number, &action, nullptr);
+    const struct sigaction action = noting();
+    for (std::size_t i = 0; i < kNumbers.size(); ++i) {
+        ::sigaction(kNumbers[i], nullptr, &m_former[i]);
+        // What was ignored when the program was started, as by nohup, stays so.
+        if (m_former[i].sa_handler != SIG_IGN)
+            ::sigaction(kNumbers[i], &action, nullptr);
     }
 }
 
 TerminationSignals::~TerminationSignals() {
-    for (const int number : kSignals)
-        std::signal(number, SIG_DFL);
+    if (m_notifier == nullptr)
+        return;
+    for (std::size_t i = 0; i < kNumbers.size(); ++i)
+        ::sigaction(kNumbers[i], &m_former[i], nullptr);
     m_notifier->setEnabled(false);
-    for (int& socket : g_sockets) {
-        if (socket >= 0)
-            ::close(socket);
-        socket = -1;
-    }
+    for (int& socket : g_sockets)
+        ::close(std::exchange(socket, -1));
 }
 
 } // namespace app

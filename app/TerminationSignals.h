@@ -7,6 +7,9 @@
 
 #include <QObject>
 
+#include <array>
+#include <csignal>
+
 class QSocketNotifier;
 
 namespace app {
@@ -21,7 +24,10 @@ Q_SIGNALS:
     void received();
 
 private:
-    QSocketNotifier* m_notifier = nullptr;
+    static constexpr std::array kNumbers{SIGTERM, SIGINT, SIGHUP};
+
+    QSocketNotifier* m_notifier = nullptr; // null if the system had no sockets left: nothing is caught then
+    std::array<struct sigaction, kNumbers.size()> m_former{};
 };
 
 } // namespace app
