@@ -8,6 +8,8 @@
 #include "platform/forms/ListViewMessages.h"
 #include "resources/StringTable.h"
 
+#include <QScopedValueRollback>
+
 #include <utility>
 
 namespace app {
@@ -31,10 +33,9 @@ void CallList::LoadList() {
     m_askedAgain = true;
     if (m_running)
         return;
-    m_running = true;
+    const QScopedValueRollback running(m_running, true);
     while (std::exchange(m_askedAgain, false) && m_parts.state.config)
         loadOnce();
-    m_running = false;
 }
 
 void CallList::loadOnce() {
@@ -48,9 +49,9 @@ void CallList::loadOnce() {
     proc.step([&] { columns = columnTable(); });
     proc.step([&] { m_parts.list.ListItems().Clear(); });
     std::shared_ptr<data::clsMailbox> mailbox;
-    proc.step([&] { mailbox = chosenMailbox(); });
+    proc.step([&] { mailbox = chosenMailbox(*config); });
     if (mailbox)
-        loadMailbox(proc, *mailbox, columns);
+        loadMailbox(proc, *config, *mailbox, columns);
     m_parts.state.listConnection.reset();
     proc.step([] { forms::doEvents(); });
     proc.step([&] { m_parts.main.ChangeItem(); });
@@ -65,10 +66,11 @@ void CallList::showNoMailboxes(errors::Procedure& proc) {
     });
 }
 
-void CallList::loadMailbox(errors::Procedure& proc, const data::clsMailbox& mailbox,
+void CallList::loadMailbox(errors::Procedure& proc, const data::clsConfig& config,
+                           const data::clsMailbox& mailbox,
                            const std::vector<data::ColumnDescription>& columns) {
     auto& connection = m_parts.state.listConnection;
-    proc.step([&] { connection = m_parts.common.GetMBXCon(mailbox.ID, *m_parts.state.config); });
+    proc.step([&] { connection = m_parts.common.GetMBXCon(mailbox.ID, config); });
     if (!connection)
         return;
     std::shared_ptr<jet::Recordset> records;
@@ -89,8 +91,8 @@ void CallList::loadMailbox(errors::Procedure& proc, const data::clsMailbox& mail
 }
 
 // None while several mailboxes have tabs and no tab is selected.
-std::shared_ptr<data::clsMailbox> CallList::chosenMailbox() const {
-    const auto& mailboxes = m_parts.state.config->Mailboxes;
+std::shared_ptr<data::clsMailbox> CallList::chosenMailbox(const data::clsConfig& config) const {
+    const auto& mailboxes = config.Mailboxes;
     if (m_parts.tabStrip.Tabs().Count() < 2)
         return mailboxes.at(1);
     const auto tab = m_parts.tabStrip.SelectedItem();

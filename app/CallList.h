@@ -37,9 +37,9 @@ public:
 private:
     void loadOnce();
     void showNoMailboxes(errors::Procedure& proc);
-    void loadMailbox(errors::Procedure& proc, const data::clsMailbox& mailbox,
+    void loadMailbox(errors::Procedure& proc, const data::clsConfig& config, const data::clsMailbox& mailbox,
                      const std::vector<data::ColumnDescription>& columns);
-    std::shared_ptr<data::clsMailbox> chosenMailbox() const;
+    std::shared_ptr<data::clsMailbox> chosenMailbox(const data::clsConfig& config) const;
 
     Parts m_parts;
     bool m_running = false;

@@ -3,13 +3,12 @@
 #include "app/Poll.h"
 
 #include "data/CallLog.h"
-#include "platform/basic/Conversion.h"
 #include "platform/basic/RuntimeError.h"
 
-#include <limits>
+#include <QScopedValueRollback>
+
 #include <string>
 #include <utility>
-#include <vector>
 
 namespace app {
 namespace {
@@ -40,10 +39,9 @@ void Poll::mTimer_ThatTime() {
     m_askedAgain = true;
     if (m_running)
         return;
-    m_running = true;
+    const QScopedValueRollback running(m_running, true);
     while (std::exchange(m_askedAgain, false) && m_parts.state.config)
         pollOnce();
-    m_running = false;
 }
 
 void Poll::exitNow() {
@@ -56,30 +54,40 @@ void Poll::exitNow() {
     proc.step([&] { m_parts.main.unload(); });
 }
 
+// Where the server or every mailbox was out of reach when the list was built and answers now, everything is
+// built anew, so that the tabs appear and nothing old is announced.
 void Poll::pollOnce() {
     errors::Procedure proc{m_parts.errorHandler, "frmMain", "mTimer_ThatTime"};
     if (std::exchange(m_parts.state.redock, false))
         proc.step([&] { m_parts.main.dockPlayer(); });
-    if (proc.value(false, [&] { return connectedAgain(); })) {
-        proc.step([&] { m_parts.main.InitData(); }); // polls by itself, right after this one
+    MainState& state = m_parts.state;
+    const bool waitedForAnyone = state.nobodyAnswered;
+    state.firstPoll = state.firstPoll || waitedForAnyone; // old calls of whoever answers now are not new
+    const std::uint32_t generation = state.generation;
+    const bool served = state.notConnected ? proc.value(false, [&] { return m_parts.main.InitConnection(); })
+                                           : countAll(proc, generation) && waitedForAnyone;
+    if (state.generation != generation)
         return;
-    }
-    const std::uint32_t generation = m_parts.state.generation;
-    countAll(proc, generation);
-    if (m_parts.state.generation == generation)
+    if (served)
+        proc.step([&] { m_parts.main.InitData(); }); // polls by itself, right after this one
+    else
         concludePoll(proc);
 }
 
-void Poll::countAll(errors::Procedure& proc, std::uint32_t generation) {
+// Answers whether any mailbox told its count. Without a mailbox to watch there is nobody to wait for.
+bool Poll::countAll(errors::Procedure& proc, std::uint32_t generation) {
+    if (!m_parts.state.config->watchesMailboxes())
+        return false;
     const auto mailboxes = m_parts.state.config->Mailboxes; // a copy: what runs inside may change them
     bool answered = false;
     for (const auto& mailbox : mailboxes) {
         answered = countMailbox(proc, *mailbox) || answered;
         if (!proc.running() || m_parts.state.generation != generation)
-            return;
+            return false;
     }
     if (m_parts.state.firstPoll)
         m_parts.state.nobodyAnswered = !answered;
+    return answered;
 }
 
 // Answers whether the mailbox told its count.
@@ -130,22 +138,6 @@ void Poll::concludePoll(errors::Procedure& proc) {
     if (state.firstPoll)
         state.newCallTotal = 0;
     state.firstPoll = false;
-}
-
-// The server was out of reach when the list was built and answers now: everything is built anew, so that the
-// tabs appear and nothing old is announced.
-bool Poll::connectedAgain() {
-    if (m_parts.state.notConnected)
-        return m_parts.main.InitConnection();
-    return m_parts.state.nobodyAnswered && !m_parts.state.firstPoll && anyMailboxAvailable();
-}
-
-bool Poll::anyMailboxAvailable() {
-    const auto config = m_parts.state.config;
-    for (const auto& mailbox : config->Mailboxes)
-        if (m_parts.common.GetMBXCon(mailbox->ID, *config))
-            return true;
-    return false;
 }
 
 } // namespace app

@@ -39,13 +39,11 @@ public:
 private:
     void exitNow();
     void pollOnce();
-    void countAll(errors::Procedure& proc, std::uint32_t generation);
+    bool countAll(errors::Procedure& proc, std::uint32_t generation);
     bool countMailbox(errors::Procedure& proc, data::clsMailbox& mailbox);
     void countGrown(errors::Procedure& proc, data::clsMailbox& mailbox, std::int32_t current);
     void refreshList(errors::Procedure& proc, const data::clsMailbox& mailbox);
     void concludePoll(errors::Procedure& proc);
-    bool connectedAgain();
-    bool anyMailboxAvailable();
 
     Parts m_parts;
     bool m_running = false;

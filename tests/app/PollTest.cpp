@@ -127,6 +127,12 @@ TEST_F(PollTest, ADamagedDefinitionIsReportedAndNothingIsCounted) {
     EXPECT_EQ(popup(), nullptr);
 }
 
+std::string replacement(const std::string& kind) {
+    if (kind == "noise")
+        return std::string(100'000, '\xA5');
+    return kind == "text" ? "no database at all" : "";
+}
+
 class ReplacedDatabase : public MainWorld, public testing::WithParamInterface<std::string> {};
 
 TEST_P(ReplacedDatabase, IsNeverCountedAndNotNewWhenItComesBack) {
@@ -139,8 +145,8 @@ TEST_P(ReplacedDatabase, IsNeverCountedAndNotNewWhenItComesBack) {
     std::filesystem::remove(file);
     if (GetParam() == "folder")
         std::filesystem::create_directory(file);
-    else if (GetParam() != "missing")
-        std::ofstream(file, std::ios::binary) << GetParam();
+    else if (GetParam() != "nothing")
+        std::ofstream(file, std::ios::binary) << replacement(GetParam());
     tick();
     EXPECT_EQ(popup(), nullptr);
     std::filesystem::remove_all(file);
@@ -152,8 +158,42 @@ TEST_P(ReplacedDatabase, IsNeverCountedAndNotNewWhenItComesBack) {
 }
 
 INSTANTIATE_TEST_SUITE_P(By, ReplacedDatabase,
-                         testing::Values("", "missing", "folder", "no database at all",
-                                         std::string(100'000, '\xA5')));
+                         testing::Values("nothing", "folder", "emptyFile", "text", "noise"));
+
+TEST_F(PollTest, MailboxesThatAppearLaterAreListedAndAnnounceNothing) {
+    configure({12, 15});
+    load();
+    EXPECT_TRUE(column(0).empty());
+    mailbox(12).append(4);
+    mailbox(15).append(4);
+    tick();
+    EXPECT_EQ(column(0).size(), 4U);
+    EXPECT_EQ(popup(), nullptr);
+    mailbox(15).append(1);
+    tick();
+    EXPECT_EQ(popupText(), "You have  1  new calls");
+}
+
+TEST_F(PollTest, ADatabaseThatOpensAndCannotBeCountedIsReportedOnceAPoll) {
+    configure({12});
+    mailbox(12).append(5);
+    std::filesystem::resize_file(mailbox(12).path(), 3 * 4096);
+    load();
+    errorHandler.reports.clear();
+    tick();
+    ASSERT_EQ(errorHandler.reports.size(), 1U);
+    EXPECT_EQ(errorHandler.reports[0].procedure, "mTimer_ThatTime");
+}
+
+TEST_F(PollTest, WithoutAWatchedMailboxNothingIsCounted) {
+    configure({});
+    mailbox(0).append(1);
+    load();
+    mailbox(0).append(1);
+    tick();
+    EXPECT_EQ(popup(), nullptr);
+    EXPECT_EQ(onlyLine(), "There are currently no mailboxes configured.");
+}
 
 TEST_F(PollTest, ServerThatAppearsLaterBringsItsTabsAndAnnouncesNothing) {
     configure({12, 15});
