@@ -27,13 +27,18 @@ std::int32_t inMilliseconds(std::int32_t seconds) {
 void MailboxData::InitData() {
     errors::Procedure proc{m_parts.errorHandler, "frmMain", "InitData"};
     MainState& state = m_parts.state;
-    ++state.generation;
-    proc.step([&] { m_parts.timer.SetInterval(inMilliseconds(state.config->PollInterval)); });
+    const auto config = state.config;
+    if (!config)
+        return;
+    const std::uint32_t generation = ++state.generation;
+    proc.step([&] { m_parts.timer.SetInterval(inMilliseconds(config->PollInterval)); });
     clear(proc);
     state.nobodyAnswered = false;
     state.notConnected = !proc.value(false, [&] { return m_parts.main.InitConnection(); });
+    if (state.generation != generation)
+        return;
     if (!state.notConnected)
-        showMailboxes(proc);
+        showMailboxes(proc, *config);
     else
         proc.step([&] {
             addStatusLine(m_parts.list,
@@ -48,29 +53,37 @@ void MailboxData::clear(errors::Procedure& proc) {
     proc.step([&] { beginStatusLine(m_parts.list); });
 }
 
-void MailboxData::showMailboxes(errors::Procedure& proc) {
+// Every report and the list let events run, in which everything may be built anew or the window unloaded.
+void MailboxData::showMailboxes(errors::Procedure& proc, const data::clsConfig& config) {
     MainState& state = m_parts.state;
+    const std::uint32_t generation = state.generation;
     proc.step([&] { addStatusLine(m_parts.list, LoadLocalString(3771, "Loading, please wait...")); });
-    addTabs(proc);
+    addTabs(proc, config);
+    if (state.generation != generation)
+        return;
     proc.step([&] { m_parts.main.layOut(); });
     proc.step([&] { state.redock = state.firstPoll = true; });
-    const std::uint32_t generation = state.generation;
     proc.step([&] { m_parts.main.LoadList(); });
     if (state.generation != generation)
-        return; // the list let events run and everything was built anew, or the window is gone
+        return;
     proc.step([&] { m_parts.main.UpdateButtonStates(); });
     proc.step([&] { state.newCallTotal = 0; });
     proc.step([&] {
-        for (const auto& mailbox : state.config->Mailboxes)
+        for (const auto& mailbox : config.Mailboxes)
             mailbox->NewCallCount = 0;
     });
     proc.step([&] { m_parts.main.mTimer_ThatTime(); });
 }
 
-void MailboxData::addTabs(errors::Procedure& proc) {
+void MailboxData::addTabs(errors::Procedure& proc, const data::clsConfig& config) {
     forms::TabCollection& tabs = m_parts.tabStrip.Tabs();
-    for (const auto& mailbox : m_parts.state.config->Mailboxes)
+    const std::uint32_t generation = m_parts.state.generation;
+    const data::MailboxCollection mailboxes = config.Mailboxes;
+    for (const auto& mailbox : mailboxes) {
+        if (!proc.running() || m_parts.state.generation != generation)
+            return;
         proc.step([&] { tabs.Add("KEY" + std::to_string(mailbox->ID), mailbox->Name, kMailboxImage); });
+    }
     // A single mailbox is shown without tabs: no tabs is how everybody recognises that case.
     if (proc.value(false, [&] { return tabs.Count() == 1; }))
         proc.step([&] { tabs.Clear(); });

@@ -37,8 +37,8 @@ public:
 
 private:
     void clear(errors::Procedure& proc);
-    void showMailboxes(errors::Procedure& proc);
-    void addTabs(errors::Procedure& proc);
+    void showMailboxes(errors::Procedure& proc, const data::clsConfig& config);
+    void addTabs(errors::Procedure& proc, const data::clsConfig& config);
 
     Parts m_parts;
 };

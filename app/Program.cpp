@@ -65,6 +65,8 @@ void Program::connectEvents(SingleInstance& instance) {
     QObject::connect(&m_areaWatch, &shell::NotificationAreaWatch::missing, &m_main, [this, door] {
         door.run("frmMain", "NotificationAreaMissing", [this] { m_main.notificationAreaMissing(); });
     });
+    QObject::connect(&m_areaWatch, &shell::NotificationAreaWatch::returned, &m_main,
+                     [this] { m_main.notificationAreaReturned(); });
     const auto endSession = [this] { m_main.unload(UnloadMode::SessionEnd); };
     QObject::connect(&m_signals, &TerminationSignals::received, &m_main, endSession);
     QObject::connect(qApp, &QGuiApplication::commitDataRequest, &m_main, endSession);
@@ -72,6 +74,8 @@ void Program::connectEvents(SingleInstance& instance) {
 
 int Program::run() {
     m_main.Form_Load();
+    if (m_main.isUnloaded()) // while a report of the start-up was up
+        return 0;
     return QCoreApplication::exec();
 }
 

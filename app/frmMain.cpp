@@ -29,6 +29,13 @@ QString text(std::int32_t id, std::string_view english) {
     return forms::toQString(resources::LoadLocalString(id, english));
 }
 
+// Whoever else was handed the connection finds it closed.
+void release(std::shared_ptr<jet::Connection>& connection) {
+    if (connection)
+        connection->Close();
+    connection.reset();
+}
+
 forms::ImageList listImages() {
     forms::ImageList images;
     images.Set(resources::kCallWithMessage, resources::callIcon(resources::kCallWithMessage),
@@ -79,7 +86,10 @@ frmMain::frmMain(const MainServices& services)
     layOutCommandBar(m_ab);
     addCommands();
     m_messages.attach();
-    connect(&m_mTimer, &forms::Timer::ThatTime, this, [this] { mTimer_ThatTime(); });
+    connect(&m_mTimer, &forms::Timer::ThatTime, this, [this] {
+        showIfUnreachable();
+        mTimer_ThatTime();
+    });
 }
 
 frmMain::~frmMain() = default;
@@ -108,9 +118,14 @@ void frmMain::Form_Load() {
     proc.step([&] { loadTrayIcon(); });
     proc.step([&] { hide(); });
     proc.step([&] { m_state.config = m_services.newConfig(); });
-    proc.step([&] { m_state.config->LoadConfig(); });
+    const auto config = m_state.config;
+    proc.step([&] { config->LoadConfig(); });
+    // A report lets events run, and the user or the session may have ended the program in one.
+    if (m_isUnloaded || m_state.exitRequested)
+        return;
     proc.step([&] { loadDialogs(); });
     proc.step([&] { InitData(); });
+    proc.step([&] { showIfUnreachable(); });
 }
 
 void frmMain::loadTrayIcon() {
@@ -144,6 +159,8 @@ void frmMain::AlertForm_Show(bool showList) {
 void frmMain::announce(std::int32_t newCalls) {
     const QString message =
         text(3765, "You have ") + u' ' + QString::number(newCalls) + u' ' + text(3766, " new calls");
+    if (!m_AlertForm)
+        return;
     m_AlertForm->lblInfo().setText(message);
     m_AlertForm->ShowForm();
 }
@@ -173,8 +190,16 @@ void frmMain::hideWindow() {
 }
 
 void frmMain::notificationAreaMissing() {
-    m_closeMinimises = true;
-    showWindow();
+    m_closeMinimises = m_showsWhenPossible = true;
+    showIfUnreachable();
+}
+
+// A hidden window of a program without an icon could never be reached again.
+void frmMain::showIfUnreachable() {
+    if (m_showsWhenPossible && !forms::isModalUp()) {
+        m_showsWhenPossible = false;
+        showWindow();
+    }
 }
 
 bool frmMain::answerModalDialog() {
@@ -216,8 +241,8 @@ void frmMain::Form_Unload() {
         if (auto* icon = m_frmSysTray.release())
             icon->deleteLater();
     });
-    proc.step([&] { m_state.currentConnection.reset(); });
-    proc.step([&] { m_state.listConnection.reset(); });
+    proc.step([&] { release(m_state.currentConnection); });
+    proc.step([&] { release(m_state.listConnection); });
     proc.step([&] { m_state.config.reset(); });
     proc.step([&] {
         if (auto* popup = m_AlertForm.release()) {

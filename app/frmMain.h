@@ -59,12 +59,16 @@ public:
     void unload() override { unload(UnloadMode::Code); }
 
     void unload(UnloadMode mode);
-    // There is no notification area: the window shows itself, and its close box minimises it from then on.
+    // There is no notification area: the window shows itself, at the next tick after a modal window is gone
+    // at the latest, and its close box only minimises it until there is one again.
     void notificationAreaMissing();
+    void notificationAreaReturned() { m_closeMinimises = m_showsWhenPossible = false; }
+
+    bool isUnloaded() const { return m_isUnloaded; }
 
     // What tests and the details dialog look at.
     MainState& state() { return m_state; }
-    const forms::Timer& timer() const { return m_mTimer; }
+    forms::Timer& timer() { return m_mTimer; }
     WindowMessages& messages() { return m_messages; }
 
 Q_SIGNALS:
@@ -86,6 +90,7 @@ private:
     void AlertForm_Show(bool showList);
     void selectAll();
     void announce(std::int32_t newCalls);
+    void showIfUnreachable();
 
     MainServices m_services;
     MainState m_state;
@@ -109,6 +114,7 @@ private:
     std::unique_ptr<tray::frmAlert> m_AlertForm;
     bool m_isUnloaded = false;
     bool m_closeMinimises = false;
+    bool m_showsWhenPossible = false;
 };
 
 } // namespace app

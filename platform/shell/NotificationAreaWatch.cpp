@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "platform/shell/NotificationAreaWatch.h"
 
+#include <utility>
+
 namespace shell {
 
 NotificationAreaWatch::NotificationAreaWatch(const TrayHosts& hosts, DelayTimer& timer)
@@ -18,7 +20,8 @@ void NotificationAreaWatch::hostsChanged() {
     if (m_hosts.kind() != TrayHostKind::None) {
         m_timer.stop();
         m_isWaiting = false;
-        m_isMissing = false;
+        if (std::exchange(m_isMissing, false))
+            Q_EMIT returned();
         return;
     }
     if (m_isWaiting || m_isMissing)

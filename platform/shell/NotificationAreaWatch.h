@@ -2,9 +2,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 // Tells when the desktop has had no notification area for a while, so that the program can show itself
-// another way. missing() comes once per absence; an area that appears in time, or one that only restarts, is
-// no absence. Nothing wakes up in between but the one timer. User-interface thread; hosts and timer must
-// outlive it.
+// another way. missing() comes once per absence and returned() ends it; an area that appears in time, or one
+// that only restarts, is no absence. Nothing wakes up in between but the one timer. User-interface thread;
+// hosts and timer must outlive it.
 
 #include "platform/shell/DelayTimer.h"
 #include "platform/shell/TrayHosts.h"
@@ -27,6 +27,7 @@ public:
 
 Q_SIGNALS:
     void missing();
+    void returned();
 
 private:
     void hostsChanged();

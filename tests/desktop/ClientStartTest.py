@@ -72,6 +72,14 @@ class StartTest(SceneTest):
         self.add_calls(FIRST, 1)
         client.wait_popup(1, seconds=30)
 
+    def test_ends_when_the_session_asks_it_to_while_the_start_reports_a_failure(self):
+        self.write_settings([FIRST], PollInterval='"often"')
+        client = Client(self.desktop)
+        client.wait_docked()
+        self.desktop.wait_window('^Quillamar Client$', pid=client.process.pid)
+        client.process.popen.terminate()
+        self.assertEqual(client.process.wait(5), 0)
+
     def test_close_in_the_menu_ends_the_program(self):
         client = self.start({FIRST: 1})
         client.choose(CLOSE)

@@ -75,5 +75,17 @@ TEST_F(NotificationAreaWatchTest, TellsAgainAfterTheNextAbsence) {
     EXPECT_EQ(m_told, 2);
 }
 
+TEST_F(NotificationAreaWatchTest, TellsWhenAMissingAreaReturns) {
+    int returned = 0;
+    QObject::connect(&m_watch, &NotificationAreaWatch::returned, &m_watch, [&] { ++returned; });
+    m_hosts.become(TrayHostKind::StatusNotifier);
+    EXPECT_EQ(returned, 0);
+    m_hosts.become(TrayHostKind::None);
+    m_timer.fire();
+    m_hosts.become(TrayHostKind::StatusNotifier);
+    EXPECT_EQ(returned, 1);
+    EXPECT_FALSE(m_watch.isMissing());
+}
+
 } // namespace
 } // namespace shell
