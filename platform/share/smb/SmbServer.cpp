@@ -1,0 +1,110 @@
+// SPDX-FileCopyrightText: 2026 The qmClient authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "platform/share/smb/SmbServer.h"
+
+#include "platform/share/smb/Failure.h"
+#include "platform/share/smb/LogOnRecord.h"
+#include "platform/share/smb/MessageDecoder.h"
+#include "platform/share/smb/MessageEncoder.h"
+
+#include <cerrno>
+#include <utility>
+
+namespace share::smb {
+namespace {
+
+// Others' requests come first, each within its deadline; more than that is a knot.
+constexpr std::chrono::milliseconds kLongestTurn{20'000};
+// A connection that was idle for so long may be gone without a word: the machine slept, a firewall forgot it.
+// A new one is quicker than finding out.
+constexpr std::chrono::milliseconds kLongestIdle{90'000};
+
+} // namespace
+
+SmbServer::SmbServer(std::string name, ServerAddress address, const Surroundings& surroundings)
+    : m_name(std::move(name)), m_address(std::move(address)), m_surroundings(surroundings),
+      m_backOff(surroundings.now, surroundings.spread) {}
+
+Response SmbServer::call(const Request& request, Waiter& waiter, std::string_view what) {
+    const Turn turn(m_turns, waiter, kLongestTurn);
+    forgetIfAsked();
+    if (m_isRefused || m_backOff.isPausing())
+        throw failure(m_lastFailure, what, request.path);
+    startHelper(waiter);
+    Response response = m_helper ? exchange(request, waiter) : m_lastFailure;
+    judge(response);
+    if (response.stage != Stage::None)
+        throw failure(response, what, request.path);
+    return response;
+}
+
+void SmbServer::forgetIfAsked() {
+    if (!m_tryNow.exchange(false))
+        return;
+    m_backOff.succeeded();
+    if (std::exchange(m_isRefused, false))
+        m_helper.reset(); // other credentials may be there by now
+}
+
+void SmbServer::startHelper(Waiter& waiter) {
+    if (m_helper && m_surroundings.now() - m_lastUse > kLongestIdle)
+        m_helper.reset();
+    if (m_helper)
+        return;
+    m_helper = std::make_unique<HelperProcess>(m_surroundings.program);
+    Request logOn{.verb = Verb::LogOn, .length = m_address.port, .path = m_address.host};
+    logOn.data = encodeLogOn(m_surroundings.credentials(m_name));
+    m_lastFailure = exchange(logOn, waiter);
+    wipe(logOn.data.data(), logOn.data.size());
+}
+
+// Sends one request and waits for its response. Without one the process is ended: an answer that comes late
+// would be taken for the next request's.
+Response SmbServer::exchange(const Request& request, Waiter& waiter) {
+    std::vector<std::byte> packet = encode(request);
+    const bool isSent = m_helper->socket().send(packet);
+    wipe(packet.data(), packet.size());
+    if (!isSent)
+        return lost(ECONNABORTED);
+    switch (waiter.untilReadable(m_helper->socket().descriptor(), m_surroundings.deadline)) {
+    case Waited::TimeOver:
+        return lost(ETIMEDOUT);
+    case Waited::Cancelled:
+        return lost(ECANCELED);
+    case Waited::Ready:
+        break;
+    }
+    m_lastUse = m_surroundings.now();
+    try {
+        if (const auto answer = m_helper->socket().receive())
+            return decodeResponse(*answer);
+    } catch (const basic::RuntimeError&) { // nonsense is as bad as silence
+    }
+    return lost(ECONNABORTED);
+}
+
+Response SmbServer::lost(std::int32_t errnoValue) {
+    m_helper.reset();
+    return {.stage = Stage::Connect, .failure = errnoValue};
+}
+
+void SmbServer::judge(const Response& response) {
+    switch (response.stage) {
+    case Stage::None:
+    case Stage::Path:
+        m_backOff.succeeded();
+        return;
+    case Stage::Handle: // found out without asking the server
+        return;
+    case Stage::LogOn:
+        m_isRefused = true;
+        break;
+    default:
+        if (response.failure != ECANCELED)
+            m_backOff.failed();
+        break;
+    }
+    m_lastFailure = response;
+}
+
+} // namespace share::smb

@@ -1,0 +1,81 @@
+// SPDX-FileCopyrightText: 2026 The qmClient authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+// One server as the client sees it: asks its qmshare process, starts it when it is first needed and again
+// when it ended, kills it when an answer does not come in time. A server that does not answer is left alone
+// for growing pauses, in which requests fail at once; one that refused its user is not asked again with the
+// same credentials. Threads may share it: requests go one after the other. Everything handed in must
+// outlive it.
+
+#include "platform/share/smb/BackOff.h"
+#include "platform/share/smb/Credentials.h"
+#include "platform/share/smb/HelperProcess.h"
+#include "platform/share/smb/Messages.h"
+#include "platform/share/smb/Turn.h"
+
+#include <atomic>
+#include <cstdint>
+#include <functional>
+#include <memory>
+#include <optional>
+#include <string>
+#include <string_view>
+
+namespace share::smb {
+
+struct ServerAddress {
+    std::string host;
+    std::uint16_t port = 445;
+};
+
+// Who is to log on to a server with this name; asked when a connection is made, on the thread that needs it.
+using CredentialSource = std::function<Credentials(const std::string& server)>;
+
+class SmbServer {
+public:
+    struct Surroundings {
+        std::string program; // qmshare
+        std::chrono::milliseconds deadline{3'000};
+        ElapsedTime now = bootTime;
+        BackOff::Spread spread;
+        CredentialSource credentials;
+    };
+
+    SmbServer(std::string name, ServerAddress address, const Surroundings& surroundings);
+    SmbServer(const SmbServer&) = delete;
+    SmbServer& operator=(const SmbServer&) = delete;
+
+    // The response of a request that succeeded; of any other what failure() makes of it. `what` is what was
+    // to be done, for the text.
+    Response call(const Request& request, Waiter& waiter, std::string_view what);
+
+    // The user wants it now: the next request is made at once, whatever happened before. Any thread.
+    void tryNow() noexcept { m_tryNow = true; }
+    // A number that no other file of this server ever had.
+    std::uint32_t newHandle() noexcept { return ++m_lastHandle; }
+    // Of the running helper; -1 without one.
+    pid_t helperId() const noexcept { return m_helper ? m_helper->id() : -1; }
+
+private:
+    void forgetIfAsked();
+    void startHelper(Waiter& waiter);
+    Response exchange(const Request& request, Waiter& waiter);
+    Response lost(std::int32_t errnoValue);
+    void judge(const Response& response);
+
+    const std::string m_name;
+    const ServerAddress m_address;
+    const Surroundings& m_surroundings;
+    TurnGate m_turns;
+    std::atomic<bool> m_tryNow = false;
+    std::atomic<std::uint32_t> m_lastHandle = 0;
+
+    // Only for who has the turn.
+    BackOff m_backOff;
+    Response m_lastFailure;
+    bool m_isRefused = false;
+    std::unique_ptr<HelperProcess> m_helper;
+    std::chrono::milliseconds m_lastUse{0};
+};
+
+} // namespace share::smb

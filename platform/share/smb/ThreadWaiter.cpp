@@ -1,0 +1,41 @@
+// SPDX-FileCopyrightText: 2026 The qmClient authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "platform/share/smb/ThreadWaiter.h"
+
+#include "platform/basic/RuntimeError.h"
+#include "platform/share/smb/BootTime.h"
+
+#include <poll.h>
+#include <sys/eventfd.h>
+
+#include <algorithm>
+#include <array>
+#include <cerrno>
+
+namespace share::smb {
+
+ThreadWaiter::ThreadWaiter() : m_cancelled(::eventfd(0, EFD_CLOEXEC | EFD_NONBLOCK)) {
+    if (!m_cancelled.isOpen())
+        throw basic::errorFromErrno(errno, "wait", "for a server");
+}
+
+Waited ThreadWaiter::untilReadable(int descriptor, std::chrono::milliseconds atMost) {
+    std::array<pollfd, 2> watched{{{m_cancelled.get(), POLLIN, 0}, {descriptor, POLLIN, 0}}};
+    const auto end = bootTime() + atMost;
+    for (;;) {
+        const auto left = std::max(end - bootTime(), std::chrono::milliseconds(0));
+        const int count = ::poll(watched.data(), watched.size(), static_cast<int>(left.count()));
+        if (count < 0 && errno != EINTR)
+            throw basic::errorFromErrno(errno, "wait", "for a server");
+        if (count > 0)
+            return watched[0].revents != 0 ? Waited::Cancelled : Waited::Ready;
+        if (count == 0)
+            return Waited::TimeOver;
+    }
+}
+
+void ThreadWaiter::cancel() noexcept {
+    ::eventfd_write(m_cancelled.get(), 1);
+}
+
+} // namespace share::smb

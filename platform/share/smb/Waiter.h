@@ -1,0 +1,25 @@
+// SPDX-FileCopyrightText: 2026 The qmClient authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+// How a caller waits for a server: a thread of its own simply sleeps, the user-interface thread lets its
+// window live on meanwhile. Each thread brings its own waiter.
+
+#include <chrono>
+
+namespace share::smb {
+
+enum class Waited { Ready, TimeOver, Cancelled };
+
+class Waiter {
+public:
+    Waiter() = default;
+    Waiter(const Waiter&) = delete;
+    Waiter& operator=(const Waiter&) = delete;
+    virtual ~Waiter() = default;
+
+    // Returns when `descriptor` can be read (or its other end is gone), when the time is over, or when the
+    // program is to end and nobody waits for servers any more.
+    virtual Waited untilReadable(int descriptor, std::chrono::milliseconds atMost) = 0;
+};
+
+} // namespace share::smb

@@ -1,0 +1,97 @@
+// SPDX-FileCopyrightText: 2026 The qmClient authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "platform/share/smb/Turn.h"
+
+#include "platform/share/smb/Messages.h"
+#include "platform/share/smb/PacketSocket.h"
+#include "platform/share/smb/ThreadWaiter.h"
+#include "tests/platform/share/ExpectError.h"
+
+#include <gtest/gtest.h>
+
+#include <atomic>
+#include <optional>
+#include <thread>
+#include <vector>
+
+namespace share::smb {
+namespace {
+
+using namespace std::chrono_literals;
+
+TEST(Turn, IsHadByOneThreadAtATime) {
+    TurnGate gate;
+    std::atomic<int> inside = 0;
+    std::atomic<int> most = 0;
+    int count = 0; // what the turn protects
+    {
+        std::vector<std::jthread> threads;
+        for (int i = 0; i < 4; ++i)
+            threads.emplace_back([&] {
+                ThreadWaiter waiter;
+                for (int round = 0; round < 500; ++round) {
+                    const Turn turn(gate, waiter, 60s);
+                    most = std::max<int>(most, ++inside);
+                    ++count;
+                    --inside;
+                }
+            });
+    }
+    EXPECT_EQ(most, 1);
+    EXPECT_EQ(count, 2000);
+}
+
+TEST(Turn, IsGivenUpWhenItDoesNotCome) {
+    TurnGate gate;
+    ThreadWaiter waiter;
+    const Turn first(gate, waiter, 1s);
+    EXPECT_ERROR(basic::kPathNotFound, Turn(gate, waiter, 1ms));
+}
+
+TEST(Turn, IsNotWaitedForAtTheEndOfTheProgram) {
+    TurnGate gate;
+    ThreadWaiter waiter;
+    const Turn first(gate, waiter, 1s);
+    waiter.cancel();
+    EXPECT_ERROR(basic::kPathNotFound, Turn(gate, waiter, 60min));
+}
+
+TEST(ThreadWaiter, NoticesWhatComesAndWhatDoesNot) {
+    auto [here, there] = PacketSocket::pair();
+    ThreadWaiter waiter;
+    EXPECT_EQ(waiter.untilReadable(here.descriptor(), 1ms), Waited::TimeOver);
+    there.send(std::vector<std::byte>(1));
+    EXPECT_EQ(waiter.untilReadable(here.descriptor(), 60min), Waited::Ready);
+}
+
+TEST(ThreadWaiter, NoticesThatTheOtherEndIsGone) {
+    auto [here, there] = PacketSocket::pair();
+    there = PacketSocket();
+    ThreadWaiter waiter;
+    EXPECT_EQ(waiter.untilReadable(here.descriptor(), 60min), Waited::Ready);
+    EXPECT_EQ(here.receive(), std::nullopt);
+    EXPECT_FALSE(here.send(std::vector<std::byte>(1)));
+}
+
+TEST(ThreadWaiter, EndsAWaitThatRunsWhenItIsCancelled) {
+    auto [here, there] = PacketSocket::pair();
+    ThreadWaiter waiter;
+    std::jthread canceller([&waiter] { waiter.cancel(); });
+    EXPECT_EQ(waiter.untilReadable(here.descriptor(), 60min), Waited::Cancelled);
+}
+
+TEST(PacketSocket, BringsTheLargestPacketOverWhole) {
+    auto [here, there] = PacketSocket::pair();
+    std::vector<std::byte> packet(kMaximumPacketBytes, std::byte{0xAB});
+    ASSERT_TRUE(here.send(packet));
+    EXPECT_EQ(there.receive(), packet);
+}
+
+TEST(PacketSocket, RefusesALargerOne) {
+    auto [here, there] = PacketSocket::pair();
+    ASSERT_TRUE(here.send(std::vector<std::byte>(kMaximumPacketBytes + 1)));
+    EXPECT_EQ(there.receive(), std::nullopt);
+}
+
+} // namespace
+} // namespace share::smb
