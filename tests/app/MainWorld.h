@@ -11,7 +11,7 @@
 #include "platform/jet/Engine.h"
 #include "platform/registry/Registry.h"
 #include "platform/share/LocalFileSystemObject.h"
-#include "tests/app/CallLogFile.h"
+#include "tests/data/CallLogFile.h"
 #include "tests/data/SettingsWorld.h"
 #include "tests/errors/RecordingErrorHandler.h"
 #include "tests/platform/share/TemporaryFolder.h"
@@ -64,6 +64,10 @@ protected:
     std::string popupText();
     void clickPopup(const char* label);
     void tick() { window->mTimer_ThatTime(); }
+    // Only srv01 has a share.
+    std::optional<std::string> shareOf(std::string_view server) const {
+        return server == "srv01" ? std::optional(folder.path("share")) : std::nullopt;
+    }
 
     share::testing::TemporaryFolder folder;
     errors::RecordingErrorHandler errorHandler;
@@ -76,9 +80,8 @@ protected:
     basic::DateTimeFormat format;
     registry::SystemCalls systemCalls;
     registry::Registry registry{registry::RegistryPaths{folder.path("registry.reg"), {}}, systemCalls};
-    share::LocalFileSystemObject files{
-        share::ShareResolver([this](std::string_view) { return std::optional(folder.path("share")); },
-                             [] { return std::string(); })};
+    share::LocalFileSystemObject files{share::ShareResolver(
+        [this](std::string_view server) { return shareOf(server); }, [] { return std::string(); })};
     jet::Engine engine{files, [](int) {}};
     data::basCommon common{errorHandler, files, [this] { return std::make_shared<jet::Connection>(engine); }};
     std::map<int, tests::CallLogFile> mailboxes;

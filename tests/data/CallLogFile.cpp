@@ -1,6 +1,6 @@
 // SPDX-FileCopyrightText: 2026 The qmClient authors
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "tests/app/CallLogFile.h"
+#include "tests/data/CallLogFile.h"
 
 #include "platform/jet/DatabaseBuilder.h"
 #include "platform/jet/TableWriter.h"
