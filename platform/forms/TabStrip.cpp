@@ -3,12 +3,12 @@
 #include "platform/forms/TabStrip.h"
 
 #include "platform/basic/RuntimeError.h"
+#include "platform/forms/TabRow.h"
 #include "platform/forms/Text.h"
 
 #include <QEvent>
 #include <QResizeEvent>
 #include <QSignalBlocker>
-#include <QTabBar>
 
 #include <algorithm>
 
@@ -23,6 +23,7 @@ void TabCollection::Clear() {
     m_strip.m_captions.clear();
     while (m_strip.m_bar->count() > 0)
         m_strip.m_bar->removeTab(m_strip.m_bar->count() - 1);
+    m_strip.m_bar->select(0);
     m_strip.placeBar();
 }
 
@@ -53,24 +54,23 @@ Tab TabCollection::Item(std::string_view key) const {
     return m_strip.tabAt(static_cast<int>(found - captions.begin()));
 }
 
-TabStrip::TabStrip(QWidget* parent) : QWidget(parent), m_tabs(*this), m_bar(new QTabBar(this)) {
+TabStrip::TabStrip(QWidget* parent) : QWidget(parent), m_tabs(*this), m_bar(new TabRow(this)) {
     m_bar->setDrawBase(false);
     m_bar->setExpanding(false);
     m_bar->setUsesScrollButtons(true);
     m_bar->setElideMode(Qt::ElideNone);
     m_bar->installEventFilter(this);
     setFocusProxy(m_bar);
-    connect(m_bar, &QTabBar::currentChanged, this, &TabStrip::Click);
+    connect(m_bar, &TabRow::chosen, this, &TabStrip::Click);
     placeBar();
 }
 
 std::optional<Tab> TabStrip::SelectedItem() const {
-    return m_bar->currentIndex() < 0 ? std::nullopt : std::optional(tabAt(m_bar->currentIndex()));
+    return m_bar->selected() < 0 ? std::nullopt : std::optional(tabAt(m_bar->selected()));
 }
 
 void TabStrip::SetSelectedItem(int index) {
-    const QSignalBlocker quiet(m_bar);
-    m_bar->setCurrentIndex(m_tabs.Item(index).Index - 1);
+    m_bar->select(index == 0 ? -1 : m_tabs.Item(index).Index - 1);
 }
 
 void TabStrip::SetAccessibleName(const QString& name) {

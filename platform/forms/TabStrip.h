@@ -2,10 +2,11 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 // The platform's tab strip: a row of tabs above a client area that the program covers with a control of its
-// own. The first tab added is selected, without an event; a strip with tabs always has a selected one.
-// Without tabs it draws nothing and the client area is all of it. Indexes count from 1; an unknown index or
-// key raises 35601, a key that is there already 35602. Captions are plain text, "&" is shown as it is. Events
-// come from the user only. User-interface thread; a QObject parent destroys it.
+// own. The first tab added is selected, without an event; a strip with tabs has a selected one unless the
+// program takes the selection away. Without tabs it draws nothing and the client area is all of it. Indexes
+// count from 1; an unknown index or key raises 35601, a key that is there already 35602. Captions are plain
+// text, "&" is shown as it is. Events come from the user only. User-interface thread; a QObject parent
+// destroys it.
 
 #include "platform/basic/Twips.h"
 #include "platform/forms/ImageList.h"
@@ -17,10 +18,9 @@
 #include <string_view>
 #include <vector>
 
-class QTabBar;
-
 namespace forms {
 
+class TabRow;
 class TabStrip;
 
 // One tab as it is at the time of asking.
@@ -55,6 +55,7 @@ public:
 
     TabCollection& Tabs() { return m_tabs; }
     std::optional<Tab> SelectedItem() const;
+    // 0 leaves no tab selected.
     void SetSelectedItem(int index);
     void SetImages(const ImageList& images) { m_images = images; }
     void SetAccessibleName(const QString& name);
@@ -66,7 +67,7 @@ public:
     basic::Twips ClientHeight() const;
 
 Q_SIGNALS:
-    // The user selected another tab, by mouse or keyboard.
+    // The user selected a tab that was not, by mouse or keyboard.
     void Click();
     // The strip or its row of tabs has a new size.
     void resized();
@@ -88,7 +89,7 @@ private:
     QRect clientArea() const;
 
     TabCollection m_tabs;
-    QTabBar* m_bar;
+    TabRow* m_bar;
     ImageList m_images;
     std::vector<Caption> m_captions;
 };

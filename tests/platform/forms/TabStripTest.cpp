@@ -92,6 +92,44 @@ TEST_F(TabStripTest, ClearingIsNoClickAndFreesTheKeys) {
     EXPECT_EQ(clicks, 0);
 }
 
+TEST_F(TabStripTest, TheProgramCanTakeTheSelectionAwayWithoutAClick) {
+    addTwo();
+    const QImage selected = bar().grab().toImage();
+    strip.SetSelectedItem(0);
+    EXPECT_FALSE(strip.SelectedItem().has_value());
+    EXPECT_NE(bar().grab().toImage(), selected);
+    EXPECT_EQ(clicks, 0);
+    strip.SetSelectedItem(1);
+    EXPECT_EQ(strip.SelectedItem()->Key, "KEY7");
+    EXPECT_EQ(bar().grab().toImage(), selected);
+    EXPECT_EQ(clicks, 0);
+}
+
+TEST_F(TabStripTest, WithoutASelectionAnyTabIsOneClickAway) {
+    addTwo();
+    for (const int tab : {0, 1}) {
+        strip.SetSelectedItem(0);
+        clicks = 0;
+        QTest::mouseClick(&bar(), Qt::LeftButton, {}, bar().tabRect(tab).center());
+        ASSERT_TRUE(strip.SelectedItem().has_value()) << tab;
+        EXPECT_EQ(strip.SelectedItem()->Index, tab + 1);
+        EXPECT_EQ(clicks, 1) << tab;
+    }
+}
+
+TEST_F(TabStripTest, ATabAddedLaterIsNotSelectedButTheFirstAfterClearingIs) {
+    addTwo();
+    strip.SetSelectedItem(0);
+    strip.Tabs().Add("KEY13", "Third");
+    EXPECT_FALSE(strip.SelectedItem().has_value());
+    strip.Tabs().Clear();
+    strip.SetSelectedItem(0);
+    addTwo();
+    ASSERT_TRUE(strip.SelectedItem().has_value());
+    EXPECT_EQ(strip.SelectedItem()->Key, "KEY7");
+    EXPECT_EQ(clicks, 0);
+}
+
 TEST_F(TabStripTest, AnAmpersandInACaptionIsShown) {
     strip.Tabs().Add("KEY1", "Sales & Support");
     EXPECT_EQ(strip.Tabs().Item(1).Caption, "Sales & Support");
