@@ -2,17 +2,12 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "platform/basic/DateTimeFormat.h"
 
+#include <array>
 #include <cctype>
+#include <charconv>
 
 namespace basic {
 namespace {
-
-std::string padded(std::int32_t number, std::size_t width) {
-    std::string digits = std::to_string(number);
-    if (digits.size() < width)
-        digits.insert(0, width - digits.size(), '0');
-    return digits;
-}
 
 bool isLetter(char c) noexcept {
     return (c >= 'a' && c <= 'z') || (c >= 'A' && c <= 'Z');
@@ -77,19 +72,19 @@ private:
         const std::size_t width = count >= 2 ? 2 : 1;
         switch (letter) {
         case 'd':
-            return add(padded(m_time.day, width));
+            return add(m_time.day, width);
         case 'M':
-            return add(padded(m_time.month, width));
+            return add(m_time.month, width);
         case 'y':
-            return add(count == 2 ? padded(m_time.year % 100, 2) : padded(m_time.year, count == 1 ? 1 : 4));
+            return count == 2 ? add(m_time.year % 100, 2) : add(m_time.year, count == 1 ? 1 : 4);
         case 'H':
-            return add(padded(m_time.hour, width));
+            return add(m_time.hour, width);
         case 'h':
-            return add(padded(m_isTwelveHours ? (m_time.hour + 11) % 12 + 1 : m_time.hour, width));
+            return add(m_isTwelveHours ? (m_time.hour + 11) % 12 + 1 : m_time.hour, width);
         case 'm':
-            return add(padded(m_time.minute, width));
+            return add(m_time.minute, width);
         case 's':
-            return add(padded(m_time.second, width));
+            return add(m_time.second, width);
         case 'A':
         case 'a':
             return addHalfDay();
@@ -100,7 +95,13 @@ private:
         }
     }
 
-    void add(const std::string& field) { m_text += field; }
+    // Lists show a date in every row, so this takes no detour over a text of its own.
+    void add(std::int32_t number, std::size_t width) {
+        std::array<char, 12> digits{};
+        const char* const end = std::to_chars(digits.data(), digits.data() + digits.size(), number).ptr;
+        const auto length = static_cast<std::size_t>(end - digits.data());
+        m_text.append(length < width ? width - length : 0, '0').append(digits.data(), length);
+    }
 
     void addHalfDay() {
         if (m_at < m_pattern.size() && (m_pattern[m_at] == 'P' || m_pattern[m_at] == 'p'))
