@@ -3,6 +3,7 @@
 #pragma once
 // Bits over bytes, the lowest bit of each byte first, as all maps of pages are stored. Refers to the bytes.
 
+#include <algorithm>
 #include <bit>
 #include <cstddef>
 #include <optional>
@@ -21,6 +22,7 @@ public:
         Byte& byte = m_bytes[bit / 8];
         byte = on ? byte | mask(bit) : byte & ~mask(bit);
     }
+    void clear() const { std::ranges::fill(m_bytes, std::byte{0}); }
     // The first set bit at or after `from`.
     std::optional<std::size_t> firstSet(std::size_t from = 0) const {
         for (std::size_t bit = from; bit < size(); bit += 8 - bit % 8) {

@@ -21,4 +21,8 @@ bool CommitWords::isWriting() const noexcept {
     return std::ranges::find(words, format::commitWords::kWriting) != words.end();
 }
 
+bool CommitWords::isDamaged() const noexcept {
+    return std::ranges::find(words, format::commitWords::kDamaged) != words.end();
+}
+
 } // namespace jet

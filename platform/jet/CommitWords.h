@@ -20,6 +20,8 @@ struct CommitWords {
     static CommitWords read(share::File& file);
 
     bool isWriting() const noexcept;
+    // A writer met damage; the database needs repair.
+    bool isDamaged() const noexcept;
     bool operator==(const CommitWords&) const = default;
 };
 

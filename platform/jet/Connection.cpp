@@ -10,15 +10,6 @@
 #include <utility>
 
 namespace jet {
-namespace {
-
-[[noreturn]] void refuseToChange(const std::string& path, std::string_view verb, const std::string& table) {
-    throw basic::RuntimeError(basic::kProviderFailure,
-                              path + ", table " + table + ": this connection cannot " + std::string(verb));
-}
-
-} // namespace
-
 void Connection::Open(std::string_view connectionString) {
     if (State() != 0)
         throw basic::RuntimeError(basic::kObjectOpen);
@@ -40,8 +31,22 @@ std::shared_ptr<Recordset> Connection::Execute(std::string_view statement) {
     if (auto* select = std::get_if<sql::Select>(&parsed))
         return std::make_shared<Recordset>(sql::SelectRunner(m_engine, m_path).run(std::move(*select)));
     if (auto* insert = std::get_if<sql::Insert>(&parsed))
-        refuseToChange(m_path, "insert", insert->table);
-    refuseToChange(m_path, "delete", std::get<sql::Delete>(parsed).table);
+        change(std::move(*insert));
+    else
+        change(std::move(std::get<sql::Delete>(parsed)));
+    return std::make_shared<Recordset>();
+}
+
+void Connection::change(sql::Change statement) {
+    if (!m_inTransaction) {
+        sql::ChangeRunner(m_engine, m_path).run(statement);
+        return;
+    }
+    if (m_pending)
+        throw basic::RuntimeError(basic::kProviderFailure,
+                                  "a transaction of this connection takes one statement that changes rows");
+    sql::ChangeRunner(m_engine, m_path).check(statement);
+    m_pending = std::move(statement);
 }
 
 void Connection::BeginTrans() {
@@ -53,18 +58,26 @@ void Connection::BeginTrans() {
 }
 
 void Connection::CommitTrans() {
+    requireTransaction();
+    if (m_pending)
+        sql::ChangeRunner(m_engine, m_path).run(*m_pending);
     endTransaction();
 }
 
 void Connection::RollbackTrans() {
+    requireTransaction();
     endTransaction();
 }
 
-void Connection::endTransaction() {
+void Connection::endTransaction() noexcept {
+    m_pending.reset();
+    m_inTransaction = false;
+}
+
+void Connection::requireTransaction() const {
     requireOpen();
     if (!m_inTransaction)
         throw basic::RuntimeError(basic::kProviderFailure, "no transaction is active on this connection");
-    m_inTransaction = false;
 }
 
 void Connection::requireOpen() const {

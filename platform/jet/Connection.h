@@ -8,9 +8,11 @@
 
 #include "platform/jet/Engine.h"
 #include "platform/jet/Recordset.h"
+#include "platform/jet/sql/ChangeRunner.h"
 
 #include <cstdint>
 #include <memory>
+#include <optional>
 #include <string>
 #include <string_view>
 
@@ -29,22 +31,31 @@ public:
     // 0 closed, 1 open.
     std::int32_t State() const noexcept { return m_path.empty() ? 0 : 1; }
 
-    // -2147217900 syntax, -2147217865 unknown table, -2147217904 unknown column, -2147217913 values of
-    // different kinds in a condition, -2147467259 whatever keeps the database from being read.
+    // Selects, inserts a row, or deletes all rows of a table; the last two answer a closed record set.
+    // -2147217900 syntax, also an unknown column of an INSERT, -2147217865 unknown table, -2147217904 unknown
+    // column elsewhere, -2147217913 a value of the wrong kind, -2147217873 a key that is there already,
+    // -2147217911 what must not be written, -2147467259 whatever keeps the database from being read or
+    // written, somebody else who is in it among that.
     std::shared_ptr<Recordset> Execute(std::string_view statement);
 
-    // One transaction at a time. Reading inside of one sees what others write.
+    // One transaction at a time, with one statement that changes rows: it is checked when executed and
+    // carried out by the commit, so that nothing is written before. A commit that fails leaves the
+    // transaction as it is, to be tried again or given up; one that is never committed is given up. Reading
+    // inside of one sees the database without the change.
     void BeginTrans();
     void CommitTrans();
     void RollbackTrans();
 
 private:
+    void change(sql::Change statement);
     void requireOpen() const;
-    void endTransaction();
+    void requireTransaction() const;
+    void endTransaction() noexcept;
 
     Engine& m_engine;
     std::string m_path;
     bool m_inTransaction = false;
+    std::optional<sql::Change> m_pending; // the transaction's
 };
 
 } // namespace jet

@@ -16,7 +16,8 @@ constexpr std::chrono::milliseconds kShortestPause{3};
 
 } // namespace
 
-Engine::Engine(share::FileSystemObject& files, ReadPause pause) : m_files(files), m_pause(std::move(pause)) {}
+Engine::Engine(share::FileSystemObject& files, ReadPause pause, SharingWait sharing)
+    : m_files(files), m_pause(std::move(pause)), m_sharing(std::move(sharing)) {}
 
 // The header is one read and nothing else is looked at, so there is nothing to compare the words with.
 void Engine::checkDatabase(std::string_view path) {
@@ -29,6 +30,16 @@ void Engine::checkDatabase(std::string_view path) {
                 failBusy(*file);
         }
         m_pause(attempt);
+    }
+}
+
+std::unique_ptr<SoleAccess> Engine::openAlone(const std::string& path) {
+    for (int left = m_sharing.tries;; --left) {
+        if (auto access = SoleAccess::tryOpen(m_files, path, m_self))
+            return access;
+        if (left <= 1)
+            SoleAccess::failInUse(m_files, path);
+        m_sharing.sleep(SharingWait::randomPause());
     }
 }
 

@@ -9,6 +9,8 @@
 #include "platform/jet/CatalogHint.h"
 #include "platform/jet/Database.h"
 #include "platform/jet/ReadGuard.h"
+#include "platform/jet/SharingWait.h"
+#include "platform/jet/SoleAccess.h"
 #include "platform/share/FileSystemObject.h"
 
 #include <map>
@@ -21,7 +23,8 @@ namespace jet {
 class Engine {
 public:
     // `pause` waits between two tries of a reading that a writer disturbed.
-    explicit Engine(share::FileSystemObject& files, ReadPause pause = sleepBriefly);
+    // `sharing` says how long a change waits for others to leave.
+    explicit Engine(share::FileSystemObject& files, ReadPause pause = sleepBriefly, SharingWait sharing = {});
     Engine(const Engine&) = delete;
     Engine& operator=(const Engine&) = delete;
 
@@ -34,6 +37,10 @@ public:
     // the last try's error is believed. The database is closed on return.
     template <typename Read>
     auto readDatabase(std::string_view path, Read&& read);
+
+    // Opens the database for a change once nobody else is in it. kProviderFailure that names who is in when
+    // that does not come true in time, and what SoleAccess throws.
+    std::unique_ptr<SoleAccess> openAlone(const std::string& path);
 
     // What is remembered about a table, to be handed to Database; empty at first. Valid until the next call.
     CatalogHint& hint(std::string_view path, std::string_view table);
@@ -48,6 +55,8 @@ private:
 
     share::FileSystemObject& m_files;
     ReadPause m_pause;
+    SharingWait m_sharing;
+    DatabaseUser m_self = DatabaseUser::ofThisMachine();
     std::map<std::string, CatalogHint, std::less<>> m_hints;
 };
 

@@ -272,4 +272,13 @@ inline constexpr std::uint32_t kSystemFlags = 0x80000002;
 inline constexpr std::uint32_t kHiddenFlag = 0x00000008;
 } // namespace catalog
 
+// The file beside the database that tells who is in it.
+namespace lockFile {
+inline constexpr std::uint64_t kUserLocks = 0x10000000; // user u holds the byte at kUserLocks + u
+inline constexpr std::size_t kUsers = 255;
+inline constexpr std::size_t kNameSize = 32;
+inline constexpr std::size_t kEntrySize =
+    2 * kNameSize; // computer, then account; user u's at (u - 1) entries
+} // namespace lockFile
+
 } // namespace jet::format

@@ -19,6 +19,8 @@ public:
     IndexPage(PageBytes bytes, const Place& place);
 
     bool isLeaf() const noexcept { return m_isLeaf; }
+    // The root of an index without entries; to be asked before nextEntry().
+    bool isEmptyLeaf() const { return m_isLeaf && findEnd() == 0; }
     PageNumber owner() const { return m_view.u32(format::page::kOwner); }
     PageNumber previous() const { return m_view.u32(format::indexPage::kPrevious); }
     PageNumber next() const { return m_view.u32(format::indexPage::kNext); }

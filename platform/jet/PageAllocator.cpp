@@ -19,14 +19,21 @@ void markFreeFrom(BitSpan bits, PageNumber base, PageNumber firstFree) {
 } // namespace
 
 PageAllocator::PageAllocator(WriteCache& cache)
-    : m_cache(cache), m_map(cache, {usageMap::kGlobalPage, usageMap::kGlobalRow}, WriteStage::GlobalMap) {}
+    : m_cache(cache), m_map(cache, {usageMap::kGlobalPage, usageMap::kGlobalRow}, WriteStage::GlobalMap) {
+    if (!cache.hasPartialPage())
+        return;
+    // A page that was about to be added when its writer died is in the way of nobody.
+    const Region region = regionOf(cache.pageCount());
+    if (region.bits.size() != 0 && !region.bits.test(cache.pageCount() - region.base))
+        Place{cache.name(), {}, cache.pageCount(), kNoRow}.fail("the file ends within this page");
+}
 
 PageNumber PageAllocator::allocate() {
     const std::optional<PageNumber> free = firstFree();
     if (!free)
         return append();
     m_cache.create(*free);
-    markUsed(*free);
+    mark(*free, false);
     return *free;
 }
 
@@ -61,17 +68,24 @@ PageNumber PageAllocator::append() {
     m_cache.create(page);
     if (regionOf(page).bits.size() == 0)
         m_map.isInline() ? outgrowInline() : addRegion(page);
-    markUsed(page);
+    mark(page, false);
     return page;
 }
 
-void PageAllocator::markUsed(PageNumber page) {
+void PageAllocator::release(PageNumber page) {
+    if (regionOf(page).bits.size() == 0)
+        return;
+    mark(page, true);
+    m_searchFrom = std::min(m_searchFrom, page);
+}
+
+void PageAllocator::mark(PageNumber page, bool isFree) {
     if (m_map.isInline()) {
-        m_map.editInlineBits().set(page - m_map.inlineStart(), false);
+        m_map.editInlineBits().set(page - m_map.inlineStart(), isFree);
         return;
     }
     const std::uint32_t index = page / usageMap::kPagesPerBitmap;
-    m_map.editBitmap(index).set(page % usageMap::kPagesPerBitmap, false);
+    m_map.editBitmap(index).set(page % usageMap::kPagesPerBitmap, isFree);
 }
 
 // The region's bitmap takes the page after the one just appended.

@@ -14,10 +14,13 @@ namespace jet {
 
 class PageAllocator {
 public:
+    // kProviderFailure when the file ends within a page that is in use: then it was cut short.
     explicit PageAllocator(WriteCache& cache);
 
     // A new page of zeros. RuntimeError kProviderFailure when the file has its largest size.
     PageNumber allocate();
+    // Gives a page back. One that the map does not reach stays without a user.
+    void release(PageNumber page);
 
 private:
     // The pages one bitmap covers, and its bits; none where a map of references has no bitmap page.
@@ -29,7 +32,7 @@ private:
     Region regionOf(PageNumber page) const;
     std::optional<PageNumber> firstFree();
     PageNumber append();
-    void markUsed(PageNumber page);
+    void mark(PageNumber page, bool isFree);
     void addRegion(PageNumber page);
     void outgrowInline();
 

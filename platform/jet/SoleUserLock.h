@@ -8,18 +8,19 @@
 // file stays, as it does after every crash: an entry without its lock means nothing. Layout:
 // docs/jet4-format.md, "Lock file".
 
+#include "platform/jet/DatabaseUser.h"
 #include "platform/share/File.h"
 
 #include <cstddef>
-#include <string_view>
+#include <memory>
 
 namespace jet {
 
 class SoleUserLock {
 public:
-    // `computer` and `user` are cut to what an entry holds. kProviderFailure when somebody else is in, or the
-    // file cannot lock. The file must outlive the lock.
-    SoleUserLock(share::File& lockFile, std::string_view computer, std::string_view user);
+    // The names of `self` are cut to what an entry holds. Null when somebody else is in, or the file cannot
+    // lock. The file must outlive the lock.
+    static std::unique_ptr<SoleUserLock> tryTake(share::File& file, const DatabaseUser& self);
     ~SoleUserLock();
     SoleUserLock(const SoleUserLock&) = delete;
     SoleUserLock& operator=(const SoleUserLock&) = delete;
@@ -28,6 +29,8 @@ public:
     static constexpr std::size_t kNumber = 1;
 
 private:
+    explicit SoleUserLock(share::File& file) : m_file(file) {}
+
     share::File& m_file;
 };
 

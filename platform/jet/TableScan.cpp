@@ -29,11 +29,13 @@ RowPointer TableScan::position() const noexcept {
 }
 
 bool TableScan::moveTo(RowPointer where) {
-    const auto page = std::ranges::lower_bound(m_pages, where.page);
-    if (page == m_pages.end() || *page != where.page)
-        return false;
-    m_nextPage = static_cast<std::size_t>(page - m_pages.begin()) + 1;
-    openPage(where.page);
+    if (m_openPage != where.page) { // whoever goes from row to row mostly stays on the page
+        const auto page = std::ranges::lower_bound(m_pages, where.page);
+        if (page == m_pages.end() || *page != where.page)
+            return false;
+        m_nextPage = static_cast<std::size_t>(page - m_pages.begin()) + 1;
+        openPage(where.page);
+    }
     m_nextSlot = std::size_t{where.row} + 1;
     return where.row < m_page.slotCount() && take(where.row);
 }
@@ -47,10 +49,12 @@ bool TableScan::nextPage() {
 }
 
 void TableScan::openPage(PageNumber page) {
+    m_openPage.reset();
     m_page = DataPage(m_source.page(page, m_pageBuffer), placeOf(page));
     if (m_page.owner() != m_owner)
         placeOf(page).fail("the page belongs to " + std::to_string(m_page.owner()) +
                            " instead of the table at " + std::to_string(m_owner));
+    m_openPage = page;
 }
 
 bool TableScan::take(std::size_t slot) {

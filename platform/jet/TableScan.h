@@ -11,6 +11,8 @@
 #include "platform/jet/RowView.h"
 #include "platform/jet/TableDefinition.h"
 
+#include <optional>
+#include <string_view>
 #include <vector>
 
 namespace jet {
@@ -42,6 +44,7 @@ private:
     std::vector<PageNumber> m_pages;
     std::size_t m_nextPage = 0;
     std::size_t m_nextSlot = 0;
+    std::optional<PageNumber> m_openPage; // the one in m_page
     DataPage m_page;
     RowView m_row;
     PageBuffer m_pageBuffer;

@@ -5,10 +5,12 @@
 #include "platform/basic/RuntimeError.h"
 #include "platform/jet/ByteEditor.h"
 #include "platform/jet/Catalog.h"
-#include "platform/jet/DatabaseHeader.h"
 #include "platform/jet/FieldEncoder.h"
 #include "platform/jet/FieldValue.h"
+#include "platform/jet/IndexPage.h"
 #include "platform/jet/TableDefinitionReader.h"
+#include "platform/jet/UsageMap.h"
+#include "platform/jet/WritableDatabase.h"
 
 #include <algorithm>
 
@@ -17,16 +19,6 @@ namespace jet {
 using namespace format;
 
 namespace {
-
-void refuseUnwritable(share::File& file) {
-    const DatabaseHeader header = DatabaseHeader::read(file);
-    if (header.databaseKey != 0)
-        throw basic::RuntimeError(basic::kProviderReadOnly, file.name() + ": the database is encoded");
-    for (const std::uint16_t word : header.commitWords.words)
-        if (word == commitWords::kWriting || word == commitWords::kDamaged)
-            throw basic::RuntimeError(basic::kProviderFailure,
-                                      file.name() + ": the database is being written or needs repair");
-}
 
 void refuseDependent(const TableDefinition& table, std::string_view name) {
     for (const LogicalIndex& index : table.logicalIndexes)
@@ -55,11 +47,28 @@ TableWriter::TableWriter(share::File& file, PageNumber definitionPage, std::stri
     : m_cache(file), m_table(TableDefinitionReader(m_cache).read(definitionPage, table)), m_name(table),
       m_allocator(m_cache),
       m_rows(m_cache, m_allocator, {m_table.ownedMap, m_table.freeMap}, definitionPage, WriteStage::Rows),
-      m_encoder(m_table), m_autonumber(findAutonumber(m_table)) {
+      m_encoder(m_table), m_autonumber(findAutonumber(m_table)), m_storedAutonumber(m_table.lastAutonumber) {
     refuseUnwritable(file);
     refuseDependent(m_table, table);
+    refuseHalfEmptied();
     for (std::size_t i = 0; i < m_table.realIndexes.size(); ++i)
         m_indexes.emplace_back(m_cache, m_allocator, m_table, i);
+}
+
+// A torn switch of a delete leaves indexes that tell of other rows than the table has: rows could be refused
+// for keys that are gone, or never be found. The next delete of all rows mends that.
+void TableWriter::refuseHalfEmptied() {
+    const bool isEmpty =
+        m_table.rowCount == 0 && UsageMap::read(m_cache, m_table.ownedMap, m_name).pages().empty();
+    for (const RealIndex& index : m_table.realIndexes) {
+        PageBuffer buffer;
+        const IndexPage root(m_cache.page(index.root, buffer), {m_cache.name(), m_name, index.root});
+        if (isEmpty && !root.isEmptyLeaf())
+            root.place().fail("the table is empty, but an index of it is not; deleting all rows mends it");
+        if (m_table.rowCount != 0 && root.isEmptyLeaf() && !index.ignoresNulls())
+            root.place().fail(
+                "an index of the table is empty, but the table is not; deleting all rows mends it");
+    }
 }
 
 std::int32_t TableWriter::insert(std::span<const basic::Variant> values) {
@@ -180,13 +189,24 @@ void TableWriter::flush() {
     m_isBroken = true;
     for (IndexWriter& index : m_indexes)
         index.store();
+    storeAutonumber();
     ByteEditor definition(m_cache.edit(m_table.page(), WriteStage::Definition));
     definition.put32(definition::kRowCount, m_table.rowCount);
-    definition.put32(definition::kLastAutonumber, m_table.lastAutonumber);
     for (const IndexWriter& index : m_indexes)
         definition.put32(index.statisticsOffset() + definition::kUniqueEntries, index.uniqueEntries());
     m_cache.flush();
     m_isBroken = false;
+}
+
+// On the disk before any row that bears a new number: whatever of the rows is there after a crash, no number
+// comes a second time.
+void TableWriter::storeAutonumber() {
+    if (m_table.lastAutonumber == m_storedAutonumber)
+        return;
+    ByteEditor(m_cache.edit(m_table.page(), WriteStage::Definition))
+        .put32(definition::kLastAutonumber, m_table.lastAutonumber);
+    m_cache.writeAhead(m_table.page());
+    m_storedAutonumber = m_table.lastAutonumber;
 }
 
 void TableWriter::refuseBroken() const {

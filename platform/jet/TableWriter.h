@@ -3,7 +3,8 @@
 #pragma once
 // Inserts rows into one table of a database. insert() checks a row whole before it changes anything, and
 // changes memory only; flush() writes, in an order that lets whoever reads meanwhile see the old rows or the
-// old and new ones (WriteCache), the row count last, and synchronises. Rows that were not flushed are lost
+// old and new ones (WriteCache), the row count last, and synchronises; the last autonumber goes first of all,
+// so that none is handed out twice. Rows that were not flushed are lost
 // with the writer. Insert many rows between two flushes where speed counts; some ten thousand are a good
 // measure.
 //
@@ -25,7 +26,8 @@ namespace jet {
 class TableWriter {
 public:
     // kProviderNoTable when there is no such table; kProviderFailure when the database is not one to write
-    // to: encoded, being written, damaged, or the table depends on another one.
+    // to: encoded, being written, damaged, or the table depends on another one; also when an index and the
+    // rows contradict each other.
     TableWriter(share::File& file, std::string_view table);
     TableWriter(share::File& file, PageNumber definitionPage, std::string_view table);
 
@@ -49,6 +51,8 @@ private:
     void placeLongValues(std::vector<RowField>& fields, bool shortStay);
     LongValueWriter& longValues(const Column& column);
     std::int32_t countRow(const Values& values);
+    void storeAutonumber();
+    void refuseHalfEmptied();
     void refuseBroken() const;
 
     WriteCache m_cache;
@@ -60,6 +64,7 @@ private:
     std::vector<IndexWriter> m_indexes;
     std::map<std::uint16_t, LongValueWriter> m_longValues; // by column number, made when first needed
     const Column* m_autonumber = nullptr;
+    std::uint32_t m_storedAutonumber; // in the file
     bool m_isBroken = false;
 };
 

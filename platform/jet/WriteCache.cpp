@@ -10,10 +10,9 @@
 namespace jet {
 namespace {
 
-PageNumber countPages(share::File& file) {
-    const std::uint64_t size = file.size();
+PageNumber countPages(const share::File& file, std::uint64_t size) {
     const std::uint64_t pages = size / format::page::kSize;
-    if (size % format::page::kSize != 0 || pages > format::page::kMaxCount)
+    if (pages > format::page::kMaxCount)
         Place{file.name(), {}, 0, kNoRow}.fail("its size of " + std::to_string(size) +
                                                " bytes is not one of a database that can be written");
     return static_cast<PageNumber>(pages);
@@ -25,7 +24,10 @@ std::uint64_t offsetOf(PageNumber number) {
 
 } // namespace
 
-WriteCache::WriteCache(share::File& file) : m_file(file), m_pageCount(countPages(file)) {}
+WriteCache::WriteCache(share::File& file) : WriteCache(file, file.size()) {}
+
+WriteCache::WriteCache(share::File& file, std::uint64_t size)
+    : m_file(file), m_pageCount(countPages(file, size)), m_hasPartialPage(size % format::page::kSize != 0) {}
 
 const std::string& WriteCache::name() const {
     return m_file.name();
@@ -87,10 +89,35 @@ std::vector<std::pair<PageNumber, const WriteCache::Entry*>> WriteCache::dirtyPa
     return dirty;
 }
 
+std::vector<PageNumber> WriteCache::newPages() const {
+    std::vector<PageNumber> pages;
+    for (const auto& [number, entry] : dirtyPages())
+        if (entry->isNew)
+            pages.push_back(number);
+    return pages;
+}
+
+std::vector<PageNumber> WriteCache::changedPages() const {
+    std::vector<PageNumber> pages;
+    for (const auto& [number, entry] : dirtyPages())
+        pages.push_back(number);
+    return pages;
+}
+
+void WriteCache::writeAhead(PageNumber number) {
+    m_file.write(offsetOf(number), load(number).bytes);
+    m_file.sync();
+}
+
 void WriteCache::flush() {
     const auto dirty = dirtyPages();
-    for (const auto& [number, entry] : dirty)
+    bool mustSync = false;
+    for (const auto& [number, entry] : dirty) {
+        if (mustSync && !entry->isNew)
+            m_file.sync();
+        mustSync = entry->isNew;
         m_file.write(offsetOf(number), entry->bytes);
+    }
     if (!dirty.empty())
         m_file.sync();
     m_pages.clear();

@@ -43,11 +43,19 @@ public:
     // A page that nothing refers to, zeroed: a free one, or the one after the last.
     MutablePage create(PageNumber number);
     bool isNew(PageNumber number) const;
+    // The file ends within a page: its start is pageCount(), and it is taken for one that is not there.
+    bool hasPartialPage() const noexcept { return m_hasPartialPage; }
+    // Pages that were created, and all pages that flush() will write, in its order.
+    std::vector<PageNumber> newPages() const;
+    std::vector<PageNumber> changedPages() const;
 
-    // Writes, synchronises and forgets everything.
+    // Writes one page as it is now, before all others, and synchronises.
+    void writeAhead(PageNumber number);
+    // Writes, synchronises and forgets everything. New pages are on the disk before anything else is written.
     void flush();
 
 private:
+    WriteCache(share::File& file, std::uint64_t size);
     struct Entry {
         PageBuffer bytes{};
         WriteStage stage = WriteStage::NewPage;
@@ -60,6 +68,7 @@ private:
 
     share::File& m_file;
     PageNumber m_pageCount;
+    bool m_hasPartialPage;
     std::unordered_map<PageNumber, std::unique_ptr<Entry>> m_pages;
 };
 

@@ -12,8 +12,6 @@
 #include "tools/demo/SpeechSynthesiser.h"
 #include "tools/demo/WaveFile.h"
 
-#include <unistd.h>
-
 #include <array>
 #include <chrono>
 #include <filesystem>
@@ -26,11 +24,6 @@ using basic::Variant;
 using share::LocalFile;
 using share::OpenMode;
 
-std::string computerName() {
-    std::array<char, 256> name{};
-    return gethostname(name.data(), name.size() - 1) == 0 ? name.data() : "localhost";
-}
-
 std::unique_ptr<share::File> openLockFile(const std::string& database) {
     const std::string path = std::filesystem::path(database).replace_extension(".ldb").string();
     return LocalFile::open(path, std::filesystem::exists(path) ? OpenMode::ReadWrite : OpenMode::Create);
@@ -40,14 +33,14 @@ std::unique_ptr<share::File> openLockFile(const std::string& database) {
 std::unique_ptr<jet::SoleUserLock> waitUntilAlone(share::File& lockFile) {
     constexpr int kTries = 100;
     constexpr std::chrono::milliseconds kPause{100};
-    for (int left = kTries; left > 1; --left) {
-        try {
-            return std::make_unique<jet::SoleUserLock>(lockFile, computerName(), "Admin");
-        } catch (const basic::RuntimeError&) {
-            std::this_thread::sleep_for(kPause);
-        }
+    const jet::DatabaseUser self = jet::DatabaseUser::ofThisMachine();
+    for (int left = kTries; left > 0; --left) {
+        if (auto lock = jet::SoleUserLock::tryTake(lockFile, self))
+            return lock;
+        std::this_thread::sleep_for(kPause);
     }
-    return std::make_unique<jet::SoleUserLock>(lockFile, computerName(), "Admin");
+    throw basic::RuntimeError(basic::kProviderFailure,
+                              lockFile.name() + ": somebody else is in the database");
 }
 
 } // namespace

@@ -5,10 +5,12 @@
 #include "platform/basic/RuntimeError.h"
 #include "platform/share/LocalFile.h"
 
+#include <filesystem>
+
 namespace qmjet {
 
-bool OneFileSystem::FileExists(std::string_view) {
-    return true;
+bool OneFileSystem::FileExists(std::string_view path) {
+    return std::filesystem::exists(placeOf(path));
 }
 
 bool OneFileSystem::FolderExists(std::string_view) {
@@ -23,8 +25,14 @@ void OneFileSystem::DeleteFile(std::string_view, bool) {
     throw basic::RuntimeError(basic::kPermissionDenied);
 }
 
-std::unique_ptr<share::File> OneFileSystem::openFile(std::string_view, share::OpenMode mode) {
-    return share::LocalFile::open(m_path, mode);
+std::unique_ptr<share::File> OneFileSystem::openFile(std::string_view path, share::OpenMode mode) {
+    return share::LocalFile::open(placeOf(path), mode);
+}
+
+std::string OneFileSystem::placeOf(std::string_view path) const {
+    if (path == kDatabase)
+        return m_path;
+    return std::filesystem::path(m_path).replace_extension(".ldb").string();
 }
 
 } // namespace qmjet

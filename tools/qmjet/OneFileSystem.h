@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 // A file system in which one file of this machine is the only database there is, so that a connection can
-// read it by the network name kDatabase.
+// use it by the network name kDatabase; every other name is that of its lock file.
 
 #include "platform/share/FileSystemObject.h"
 
@@ -12,6 +12,7 @@ namespace qmjet {
 
 class OneFileSystem final : public share::FileSystemObject {
 public:
+    static constexpr std::string_view kDatabase = "\\\\localhost\\file\\database";
     static constexpr std::string_view kConnection =
         "Provider=Microsoft.Jet.OLEDB.4.0;Data Source=\\\\localhost\\file\\database";
 
@@ -24,6 +25,9 @@ public:
     std::unique_ptr<share::File> openFile(std::string_view path, share::OpenMode mode) override;
 
 private:
+    // The file itself, or the lock file beside it.
+    std::string placeOf(std::string_view path) const;
+
     std::string m_path;
 };
 

@@ -144,11 +144,12 @@ TEST_F(ConnectionTest, OpenRefusesADatabaseThatIsCutShort) {
     EXPECT_ERROR(basic::kProviderFailure, connection.Open(kConnectionString));
 }
 
-TEST_F(ConnectionTest, WritingIsRefusedClearlyAndChangesNothing) {
+TEST_F(ConnectionTest, ChangeOnAShareWithoutALockFileIsAnErrorAndChangesNothing) {
     const std::vector<std::byte> before = m_files.bytes;
-    EXPECT_ERROR(basic::kProviderFailure, execute("DELETE FROM CallLog"));
-    EXPECT_ERROR(basic::kProviderFailure, execute("INSERT INTO CallLog (CallID) VALUES ('n')"));
+    EXPECT_ERROR(basic::kFileNotFound, execute("DELETE FROM CallLog"));
+    EXPECT_ERROR(basic::kFileNotFound, execute("INSERT INTO CallLog (CallID) VALUES ('n')"));
     EXPECT_EQ(m_files.bytes, before);
+    EXPECT_EQ(m_files.open, 0);
 }
 
 TEST_F(ConnectionTest, StatementIsRepeatedWhenTheServerWroteMeanwhile) {

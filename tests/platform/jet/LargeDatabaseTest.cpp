@@ -133,9 +133,24 @@ TEST_F(LargeDatabase, RowTooLongForAPageIsRefusedAndShortObjectsLeaveALongRow) {
     EXPECT_NO_THROW(checkDatabase(m_file));
 }
 
-TEST_F(LargeDatabase, FileThatIsNoMultipleOfAPageIsNotWritten) {
-    m_file.write(m_file.size(), std::vector<std::byte>(100));
-    EXPECT_EQ(errorNumberOf([&] { TableWriter(m_file, "A"); }), basic::kProviderFailure);
+TEST_F(LargeDatabase, FileThatIsCutShortIsNotWritten) {
+    std::vector<std::byte> bytes = m_file.bytes();
+    bytes.resize(bytes.size() - 100);
+    share::MemoryFile cut(bytes);
+    EXPECT_EQ(errorNumberOf([&] { TableWriter(cut, "A"); }), basic::kProviderFailure);
+    EXPECT_EQ(cut.bytes(), bytes);
+}
+
+// What a writer leaves that died while it added a page.
+TEST_F(LargeDatabase, PartOfAPageBehindTheLastOneIsWrittenOver) {
+    const std::uint64_t size = m_file.size();
+    m_file.write(size, std::vector<std::byte>(100, std::byte{0xEE}));
+    TableWriter writer(m_file, "A");
+    writer.insert(Values(writer.definition().columns.size()));
+    writer.flush();
+    EXPECT_GE(m_file.size(), size + format::page::kSize);
+    EXPECT_EQ(m_file.size() % format::page::kSize, 0U);
+    EXPECT_NO_THROW(checkDatabase(m_file));
 }
 
 } // namespace

@@ -27,24 +27,25 @@ TEST_F(SoleUserLockTest, KeepsEveryOtherUserOut) {
     const auto ours = open(share::OpenMode::Create);
     const auto others = open(share::OpenMode::ReadWrite);
     {
-        const SoleUserLock lock(*ours, "ws1", "Admin");
-        EXPECT_EQ(errorNumberOf([&] { SoleUserLock(*others, "ws2", "Admin"); }), basic::kProviderFailure);
+        const auto lock = SoleUserLock::tryTake(*ours, {"ws1"});
+        ASSERT_NE(lock, nullptr);
+        EXPECT_EQ(SoleUserLock::tryTake(*others, {"ws2"}), nullptr);
         for (const std::uint64_t user : {1U, 2U, 255U})
             EXPECT_FALSE(others->lock(0x10000000U + user, 1, share::LockKind::Exclusive)) << user;
     }
-    EXPECT_NO_THROW(SoleUserLock(*others, "ws2", "Admin"));
+    EXPECT_NE(SoleUserLock::tryTake(*others, {"ws2"}), nullptr);
 }
 
 TEST_F(SoleUserLockTest, IsNotGivenWhileSomebodyIsIn) {
     const auto ours = open(share::OpenMode::Create);
     const auto others = open(share::OpenMode::ReadWrite);
     ASSERT_TRUE(others->lock(0x100000FF, 1, share::LockKind::Exclusive));
-    EXPECT_EQ(errorNumberOf([&] { SoleUserLock(*ours, "ws1", "Admin"); }), basic::kProviderFailure);
+    EXPECT_EQ(SoleUserLock::tryTake(*ours, {"ws1"}), nullptr);
 }
 
 TEST_F(SoleUserLockTest, WritesAnEntryOfComputerAndUser) {
     share::MemoryFile file{{}};
-    const SoleUserLock lock(file, "a-computer-with-a-name-that-is-too-long", "Admin");
+    const auto lock = SoleUserLock::tryTake(file, {"a-computer-with-a-name-that-is-too-long"});
     ASSERT_EQ(file.size(), 64U);
     const auto* text = reinterpret_cast<const char*>(file.bytes().data());
     EXPECT_EQ(std::string(text), "a-computer-with-a-name-that-is-");

@@ -60,6 +60,19 @@ TemporaryFolder::~TemporaryFolder() {
     std::filesystem::remove_all(m_path, ignored);
 }
 
+std::string runTool(const std::string& command) {
+    std::FILE* pipe = popen(command.c_str(), "r");
+    if (pipe == nullptr)
+        throw std::runtime_error("cannot run " + command);
+    std::string output;
+    std::array<char, 4096> buffer{};
+    while (const std::size_t count = std::fread(buffer.data(), 1, buffer.size(), pipe))
+        output.append(buffer.data(), count);
+    if (pclose(pipe) != 0)
+        throw std::runtime_error("failed: " + command);
+    return output;
+}
+
 WrittenDatabase::WrittenDatabase()
     : m_path(m_folder.path("test.mdb")), m_file(share::LocalFile::open(m_path, share::OpenMode::Create)) {
     createDatabase(*m_file, kCreated);
@@ -74,17 +87,7 @@ void WrittenDatabase::insert(std::string_view table, const std::vector<Values>& 
 
 std::string WrittenDatabase::tool(const std::string& program, const std::string& options,
                                   const std::string& after) const {
-    const std::string command = program + " " + options + " '" + m_path + "' " + after;
-    std::FILE* pipe = popen(command.c_str(), "r");
-    if (pipe == nullptr)
-        throw std::runtime_error("cannot run " + command);
-    std::string output;
-    std::array<char, 4096> buffer{};
-    while (const std::size_t count = std::fread(buffer.data(), 1, buffer.size(), pipe))
-        output.append(buffer.data(), count);
-    if (pclose(pipe) != 0)
-        throw std::runtime_error("failed: " + command);
-    return output;
+    return runTool(program + " " + options + " '" + m_path + "' " + after);
 }
 
 } // namespace jet::test

@@ -28,6 +28,9 @@ std::uint32_t storedCount(share::File& file, std::string_view table);
 // Throws what the Checker finds.
 void checkDatabase(share::File& file);
 
+// The standard output of a command, which must succeed.
+std::string runTool(const std::string& command);
+
 class TemporaryFolder {
 public:
     TemporaryFolder();

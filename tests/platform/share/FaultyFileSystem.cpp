@@ -14,7 +14,7 @@ bool isDue(const FaultPlan& plan) {
 void count(FaultPlan& plan, std::string_view what) {
     ++plan.calls;
     if (isDue(plan))
-        throw basic::RuntimeError(basic::kDeviceIoError, std::string(what) + ": made to fail");
+        throw basic::RuntimeError(plan.error, std::string(what) + ": made to fail");
 }
 
 class FaultyFile final : public File {
@@ -38,7 +38,13 @@ public:
         return m_behind->read(offset, into);
     }
     void write(std::uint64_t offset, std::span<const std::byte> from) override {
-        count(m_plan, "write");
+        try {
+            count(m_plan, "write");
+        } catch (const basic::RuntimeError&) {
+            if (m_plan.writesHalf)
+                m_behind->write(offset, from.first(from.size() / 2));
+            throw;
+        }
         m_behind->write(offset, from);
     }
     void sync() override {

@@ -2,9 +2,11 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 // Wraps another file system and counts the calls that reach it, also those to the files it opens. One of them
-// can be made to fail with error 57, and reads can be cut short. For running an operation again and again
+// can be made to fail with error 57 or another one, a failing write before or after half of it is done, and
+// reads can be cut short. For running an operation again and again
 // with call 1, 2, … N failing: every way out of it is then taken.
 
+#include "platform/basic/ErrorNumbers.h"
 #include "platform/share/FileSystemObject.h"
 
 #include <memory>
@@ -18,6 +20,8 @@ struct FaultPlan {
     int reads = 0;               // of these, reads of a file
     int openFiles = 0;           // at the moment
     bool failsFromThere = false; // every call from failAt on fails
+    bool writesHalf = false;     // a write that fails has written its first half
+    std::int32_t error = basic::kDeviceIoError;
 };
 
 class FaultyFileSystem final : public FileSystemObject {

@@ -1,0 +1,170 @@
+// SPDX-FileCopyrightText: 2026 The qmClient authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "platform/jet/TableEmptier.h"
+
+#include "platform/basic/RuntimeError.h"
+#include "platform/jet/Catalog.h"
+#include "platform/jet/DataPageSpace.h"
+#include "platform/jet/IndexPage.h"
+#include "platform/jet/PageUndo.h"
+#include "platform/jet/TableDefinitionReader.h"
+#include "platform/jet/TablePlacement.h"
+#include "platform/jet/WritableDatabase.h"
+
+#include <algorithm>
+#include <map>
+#include <set>
+
+namespace jet {
+namespace {
+
+PageNumber findTable(share::File& file, std::string_view table) {
+    refuseUnwritable(file);
+    WriteCache pages(file);
+    return Catalog(pages).find(table).definitionPage();
+}
+
+} // namespace
+
+TableEmptier::TableEmptier(share::File& file, std::string_view table)
+    : TableEmptier(file, findTable(file, table), table) {}
+
+TableEmptier::TableEmptier(share::File& file, PageNumber definitionPage, std::string_view table)
+    : m_file(file), m_name(table), m_cache(file),
+      m_table(TableDefinitionReader(m_cache).read(definitionPage, table)),
+      m_contents(TableContents::read(m_cache, m_table, table)), m_others(m_cache, definitionPage) {
+    refuseUnlessPlain();
+    refuseForeignPages();
+}
+
+void TableEmptier::refuseUnlessPlain() const {
+    if (!m_table.isUserTable())
+        throw basic::RuntimeError(basic::kProviderReadOnly,
+                                  m_file.name() + ": table " + m_name + " belongs to the system");
+    if (std::ranges::any_of(m_table.logicalIndexes, &LogicalIndex::isReferenced))
+        throw basic::RuntimeError(
+            basic::kProviderFailure,
+            m_file.name() + ": the rows of table " + m_name +
+                " cannot be deleted, another table has records that are related to them");
+}
+
+// What is about to be freed must be this table's alone, or another one would lose it.
+void TableEmptier::refuseForeignPages() const {
+    const std::vector<PageNumber> pages = m_contents.emptiedPages();
+    for (std::size_t i = 0; i < pages.size(); ++i) {
+        if (m_others.isUsed(pages[i]) || std::ranges::count(m_table.pages, pages[i]) != 0)
+            fail(pages[i], "the page is listed as the table's, but has another use");
+        if (i > 0 && pages[i] == pages[i - 1])
+            fail(pages[i], "the table uses the page twice");
+        if (m_others.freePages().contains(pages[i]))
+            fail(pages[i], "the page is the table's, but marked free");
+    }
+}
+
+bool TableEmptier::isDone() {
+    const auto hasMembers = [](const UsageMap& map) { return !map.pages().empty(); };
+    if (m_table.rowCount != 0 || !m_contents.isSound || m_contents.hasLongValues() ||
+        std::ranges::any_of(m_contents.rowMaps, hasMembers))
+        return false;
+    return std::ranges::all_of(m_contents.indexMaps,
+                               [](const UsageMap& map) { return map.pages().size() == 1; }) &&
+           std::ranges::all_of(m_table.realIndexes,
+                               [this](const RealIndex& index) { return isEmptyIndex(index.root); });
+}
+
+bool TableEmptier::isEmptyIndex(PageNumber root) {
+    PageBuffer buffer;
+    const IndexPage page(m_cache.page(root, buffer), {m_cache.name(), m_name, root});
+    return page.isEmptyLeaf() && page.owner() == m_table.page();
+}
+
+void TableEmptier::run(const std::function<void()>& announce) {
+    PageAllocator allocator(m_cache);
+    const DefinitionSwitch change(m_cache, allocator, m_table, emptied(allocator));
+    writeNewPages();
+    writeSwitch(change);
+    announce();
+    emptyLongValueMaps();
+    freeOldPages(change);
+}
+
+TableDefinition TableEmptier::emptied(PageAllocator& allocator) {
+    TableDefinition table = m_table;
+    NewUsageMaps maps(m_cache, allocator);
+    table.rowCount = 0;
+    table.ownedMap = maps.add();
+    table.freeMap = maps.add();
+    placeIndexes(table, maps, m_cache, allocator);
+    return table;
+}
+
+// A page that the map of free pages hands out although it has a use would be lost to its user.
+void TableEmptier::refuseUsedPages() const {
+    const std::vector<PageNumber> ours = m_contents.emptiedPages();
+    for (const PageNumber page : m_cache.newPages())
+        if (m_others.isUsed(page) || std::ranges::binary_search(ours, page) ||
+            std::ranges::count(m_table.pages, page) != 0)
+            fail(page, "the page is marked free, but in use");
+}
+
+void TableEmptier::writeNewPages() {
+    refuseUsedPages();
+    PageUndo undo(m_file, m_cache.changedPages());
+    try {
+        m_cache.flush();
+    } catch (...) {
+        undo.restore();
+        throw;
+    }
+}
+
+void TableEmptier::writeSwitch(const DefinitionSwitch& change) {
+    m_file.write(std::uint64_t{m_table.page()} * format::page::kSize, change.firstPage());
+    m_file.sync();
+}
+
+// Bits only: wherever a write of them is cut, every bit that is left stands for a page that is still theirs.
+void TableEmptier::emptyLongValueMaps() {
+    for (const UsageMap& map : m_contents.longValueMaps) {
+        if (map.pages().empty())
+            continue;
+        UsageMapRow row(m_cache, map.where(), WriteStage::UsageMaps);
+        if (row.isInline())
+            row.editInlineBits().clear();
+        for (std::uint32_t i = 0; !row.isInline() && i < row.bitmapCount(); ++i)
+            if (row.bitmapPage(i) != 0)
+                row.editBitmap(i).clear();
+    }
+    m_cache.flush();
+}
+
+void TableEmptier::freeOldPages(const DefinitionSwitch& change) {
+    PageAllocator allocator(m_cache);
+    for (const auto& pages : {m_contents.emptiedPages(), change.replacedPages(), unusedMapPages()})
+        for (const PageNumber page : pages)
+            allocator.release(page);
+    m_cache.flush();
+}
+
+// Pages of usage maps that held nothing but what the table has got new.
+std::vector<PageNumber> TableEmptier::unusedMapPages() {
+    std::map<PageNumber, std::set<std::uint8_t>> rowsByPage;
+    for (const RowPointer map : m_contents.emptiedMaps())
+        rowsByPage[map.page].insert(map.row);
+    for (const UsageMap& map : m_contents.longValueMaps)
+        rowsByPage.erase(map.where().page);
+    std::vector<PageNumber> pages;
+    for (const auto& [page, rows] : rowsByPage) {
+        PageBuffer buffer;
+        const DataPageSpace space(m_cache.page(page, buffer), {m_cache.name(), m_name, page});
+        if (space.slotCount() == rows.size() && !m_others.isUsed(page))
+            pages.push_back(page);
+    }
+    return pages;
+}
+
+void TableEmptier::fail(PageNumber page, const std::string& what) const {
+    Place{m_file.name(), m_name, page}.fail(what);
+}
+
+} // namespace jet

@@ -1,0 +1,215 @@
+// SPDX-FileCopyrightText: 2026 The qmClient authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "platform/jet/TableEmptier.h"
+
+#include "platform/basic/RuntimeError.h"
+#include "platform/jet/ByteEditor.h"
+#include "platform/jet/Catalog.h"
+#include "platform/jet/PageReader.h"
+#include "platform/jet/TableDefinitionReader.h"
+#include "platform/jet/TableWriter.h"
+#include "tests/platform/jet/EmptyingScenario.h"
+#include "tests/platform/jet/ErrorNumberOf.h"
+#include "tests/platform/jet/WrittenDatabase.h"
+
+#include <gtest/gtest.h>
+
+namespace jet {
+namespace {
+
+using namespace test;
+
+PageNumber definitionPageOf(share::File& file, std::string_view table) {
+    PageReader pages(file, 0);
+    return Catalog(pages).find(table).definitionPage();
+}
+
+TableDefinition definitionOf(share::File& file, std::string_view table) {
+    PageReader pages(file, 0);
+    return TableDefinitionReader(pages).read(definitionPageOf(file, table), table);
+}
+
+std::span<const std::byte> pageOf(const FileImage& image, PageNumber page) {
+    return std::span(image).subspan(page * format::page::kSize, format::page::kSize);
+}
+
+TEST(TableEmptier, LeavesAnEmptyTableAndASoundDatabase) {
+    share::MemoryFile file(callLogDatabase(200));
+    emptyLog(file);
+    EXPECT_TRUE(readRows(file, kLog).empty());
+    EXPECT_EQ(storedCount(file, kLog), 0U);
+    EXPECT_NO_THROW(checkDatabase(file));
+}
+
+TEST(TableEmptier, GoesOnCountingWhereItWas) {
+    share::MemoryFile file(callLogDatabase(7));
+    emptyLog(file);
+    addCall(file, "next");
+    EXPECT_EQ(readRows(file, kLog).front()[0], basic::Variant(std::int32_t{8}));
+}
+
+TEST(TableEmptier, KeepsColumnsIndexesAndTheDefinitionsPage) {
+    share::MemoryFile file(callLogDatabase(7));
+    const TableDefinition before = definitionOf(file, kLog);
+    emptyLog(file);
+    const TableDefinition after = definitionOf(file, kLog);
+    EXPECT_EQ(after.page(), before.page());
+    EXPECT_EQ(after.columns.size(), before.columns.size());
+    EXPECT_EQ(after.logicalIndexes.size(), before.logicalIndexes.size());
+    EXPECT_EQ(after.lastAutonumber, before.lastAutonumber);
+    EXPECT_EQ(after.realIndexes[0].uniqueEntries, before.realIndexes[0].uniqueEntries);
+}
+
+TEST(TableEmptier, UniqueKeysCanBeUsedAgain) {
+    share::MemoryFile file(callLogDatabase(7));
+    emptyLog(file);
+    EXPECT_NO_THROW(addCall(file, "K3"));
+    EXPECT_EQ(errorNumberOf([&] { addCall(file, "K3"); }), basic::kProviderIntegrity);
+}
+
+TEST(TableEmptier, LeavesEveryPageOfOthersByteForByte) {
+    share::MemoryFile file(callLogDatabase(200));
+    const FileImage before = file.bytes();
+    PageReader pages(file, 0);
+    const PageUse others(pages, definitionPageOf(file, kLog));
+    emptyLog(file);
+    std::size_t compared = 0;
+    for (PageNumber page = 2; page < before.size() / format::page::kSize; ++page) {
+        if (!others.isUsed(page))
+            continue;
+        ++compared;
+        EXPECT_TRUE(std::ranges::equal(pageOf(before, page), pageOf(file.bytes(), page))) << page;
+    }
+    EXPECT_GT(compared, 15U);
+}
+
+TEST(TableEmptier, HeaderChangesInItsCommitWordOnly) {
+    share::MemoryFile file(callLogDatabase(20));
+    FileImage before = file.bytes();
+    emptyLog(file);
+    constexpr std::size_t kWord = format::commitWords::kOffset + 2;
+    EXPECT_NE(before[kWord], file.bytes()[kWord]);
+    before[kWord] = file.bytes()[kWord];
+    EXPECT_TRUE(std::ranges::equal(pageOf(before, 0), pageOf(file.bytes(), 0)));
+}
+
+TEST(TableEmptier, FreedPagesAreUsedUpToTheOldSize) {
+    constexpr int kCalls = 150;
+    share::MemoryFile file(callLogDatabase(kCalls));
+    const std::uint64_t oldSize = file.size();
+    const std::size_t indexes = definitionOf(file, kLog).realIndexes.size();
+    for (int round = 0; round < 5; ++round) {
+        emptyLog(file);
+        TableWriter writer(file, kLog);
+        for (int i = 0; i < kCalls; ++i)
+            writer.insert(anyRow(writer.definition(), "K" + std::to_string(i), i % 3 == 0 ? 5000 : 10));
+        writer.flush();
+        EXPECT_EQ(readRows(file, kLog).size(), std::size_t{kCalls});
+    }
+    EXPECT_NO_THROW(checkDatabase(file));
+    // The old roots and maps are given back only once new ones are there; and the page with the maps of long
+    // values stays beside that with the new maps.
+    EXPECT_LE(file.size(), oldSize + (indexes + 2) * format::page::kSize);
+}
+
+TEST(TableEmptier, DoesNotGrowTheFileWhenRepeated) {
+    share::MemoryFile file(callLogDatabase(20));
+    emptyLog(file);
+    const std::uint64_t size = file.size();
+    for (int round = 0; round < 50; ++round)
+        emptyLog(file);
+    EXPECT_EQ(file.size(), size);
+    EXPECT_NO_THROW(checkDatabase(file));
+}
+
+TEST(TableEmptier, SeesThatThereIsNothingToDo) {
+    share::MemoryFile file(callLogDatabase(5));
+    EXPECT_FALSE(TableEmptier(file, kLog).isDone());
+    emptyLog(file);
+    EXPECT_TRUE(TableEmptier(file, kLog).isDone());
+    addCall(file, "one");
+    EXPECT_FALSE(TableEmptier(file, kLog).isDone());
+}
+
+TEST(TableEmptier, RefusesTheParentOfARelationship) {
+    share::MemoryFile file(callLogDatabase(5));
+    const TableDefinition log = definitionOf(file, kLog);
+    FileImage image = file.bytes();
+    // The blocks of logical indexes follow those of the real ones.
+    const std::size_t block =
+        log.page() * format::page::kSize + log.realIndexes.back().definitionOffset + format::realIndex::kSize;
+    ByteEditor bytes(image);
+    bytes.put8(block + format::logicalIndex::kType, format::logicalIndex::kForeignKey);
+    bytes.put8(block + format::logicalIndex::kRole, format::logicalIndex::kParent);
+    share::MemoryFile related(image);
+    EXPECT_EQ(errorNumberOf([&] { TableEmptier(related, kLog); }), basic::kProviderFailure);
+    EXPECT_EQ(related.bytes(), image);
+    bytes.put8(block + format::logicalIndex::kRole, format::logicalIndex::kChild);
+    share::MemoryFile child(image);
+    EXPECT_NO_THROW(emptyLog(child));
+}
+
+TEST(TableEmptier, RefusesSystemTablesAndUnknownOnes) {
+    share::MemoryFile file(callLogDatabase(1));
+    EXPECT_EQ(errorNumberOf([&] { TableEmptier(file, "MSysObjects"); }), basic::kProviderReadOnly);
+    EXPECT_EQ(errorNumberOf([&] { TableEmptier(file, "Nothing"); }), basic::kProviderNoTable);
+}
+
+class RefusedCommitWord : public testing::TestWithParam<std::uint8_t> {};
+
+TEST_P(RefusedCommitWord, KeepsTheDatabaseAsItIs) {
+    share::MemoryFile whole(callLogDatabase(1));
+    FileImage image = whole.bytes();
+    ByteEditor(image).put16(format::commitWords::kOffset + 14, GetParam());
+    share::MemoryFile file(image);
+    EXPECT_EQ(errorNumberOf([&] { TableEmptier(file, kLog); }), basic::kProviderFailure);
+}
+
+INSTANTIATE_TEST_SUITE_P(Words, RefusedCommitWord,
+                         testing::Values(format::commitWords::kWriting, format::commitWords::kDamaged));
+
+// Another table's page in our list, or one of our pages marked free: freeing would give it two users.
+TEST(TableEmptier, RefusesPagesThatAreNotTheTablesAlone) {
+    share::MemoryFile file(callLogDatabase(5));
+    const TableDefinition info = definitionOf(file, "MailboxInfo");
+    PageReader pages(file, 0);
+    const PageNumber foreign = UsageMap::read(pages, info.ownedMap).pages().front();
+    WriteCache cache(file);
+    PageAllocator allocator(cache);
+    UsageMapWriter(cache, allocator, definitionOf(file, kLog).ownedMap).add(foreign);
+    cache.flush();
+    const FileImage before = file.bytes();
+    EXPECT_EQ(errorNumberOf([&] { TableEmptier(file, kLog); }), basic::kProviderFailure);
+    EXPECT_EQ(file.bytes(), before);
+}
+
+TEST(TableEmptier, RefusesToTakeAPageThatIsWronglyMarkedFree) {
+    share::MemoryFile file(refilledDatabase(20));
+    PageReader pages(file, 0);
+    const PageNumber used = UsageMap::read(pages, definitionOf(file, "MailboxInfo").ownedMap).pages().front();
+    WriteCache cache(file);
+    PageAllocator allocator(cache);
+    allocator.release(used);
+    cache.flush();
+    const FileImage before = file.bytes();
+    EXPECT_EQ(errorNumberOf([&] { emptyLog(file); }), basic::kProviderFailure);
+    EXPECT_EQ(file.bytes(), before);
+}
+
+TEST(TableEmptier, PublicToolsReadAnEmptyTableAndTheOtherOneAsBefore) {
+    WrittenDatabase database;
+    share::MemoryFile memory(callLogDatabase(200));
+    database.file().write(0, memory.bytes());
+    const std::string info = database.json("MailboxInfo");
+    ASSERT_EQ(database.tool("mdb-count", "", "CallLog"), "200\n");
+    emptyLog(database.file());
+    EXPECT_EQ(database.tool("mdb-count", "", "CallLog"), "0\n");
+    EXPECT_EQ(database.json("CallLog"), "");
+    EXPECT_EQ(database.json("MailboxInfo"), info);
+    EXPECT_NE(info, "");
+    addCall(database.file(), "again", 5000);
+    EXPECT_NE(database.json("CallLog").find("again"), std::string::npos);
+}
+
+} // namespace
+} // namespace jet

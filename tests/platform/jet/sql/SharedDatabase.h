@@ -1,0 +1,62 @@
+// SPDX-FileCopyrightText: 2026 The qmClient authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+// A call log in a folder that stands for a server's share, reached through the engine as the client does it,
+// and through files of its own as another program would.
+
+#include "platform/jet/Connection.h"
+#include "platform/share/LocalFile.h"
+#include "platform/share/LocalFileSystemObject.h"
+#include "tests/platform/jet/EmptyingScenario.h"
+#include "tests/platform/jet/WrittenDatabase.h"
+#include "tests/platform/share/FaultyFileSystem.h"
+
+#include <functional>
+#include <string>
+#include <vector>
+
+namespace jet::test {
+
+// The file system of a server that can deny all sharing; it counts whom it keeps out.
+class DenyingFileSystem final : public share::FileSystemObject {
+public:
+    explicit DenyingFileSystem(share::FileSystemObject& behind) : m_behind(behind) {}
+
+    int refusals = 0; // of the next ones to open a file exclusively
+    std::vector<std::string> opened;
+
+    bool FileExists(std::string_view path) override { return m_behind.FileExists(path); }
+    bool FolderExists(std::string_view path) override { return m_behind.FolderExists(path); }
+    std::vector<std::string> SubFolders(std::string_view path) override { return m_behind.SubFolders(path); }
+    void DeleteFile(std::string_view pattern, bool force) override { m_behind.DeleteFile(pattern, force); }
+    std::unique_ptr<share::File> openFile(std::string_view path, share::OpenMode mode) override;
+
+private:
+    share::FileSystemObject& m_behind;
+};
+
+class SharedDatabase {
+public:
+    static constexpr std::string_view kPath = R"(\\srv\Quillamar_0$\MBX\7\qmLog.mdb)";
+    static constexpr std::string_view kConnection =
+        "Provider=Microsoft.Jet.OLEDB.4.0;Jet OLEDB:Database Locking Mode=1;Data Source="
+        R"(\\srv\Quillamar_0$\MBX\7\qmLog.mdb)";
+
+    explicit SharedDatabase(const FileImage& image);
+
+    std::string place() const { return m_folder.path("qmLog.mdb"); }
+    std::string lockFilePlace() const { return m_folder.path("qmLog.ldb"); }
+    FileImage bytes() const;
+    void setBytes(const FileImage& image) const;
+    std::size_t rowCount() const;
+    bool isSound() const;
+    // The output of mdb-json for a table.
+    std::string json(const std::string& table) const;
+
+    share::LocalFileSystemObject files;
+
+private:
+    TemporaryFolder m_folder;
+};
+
+} // namespace jet::test
