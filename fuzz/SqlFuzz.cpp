@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The qmClient authors
 // SPDX-License-Identifier: GPL-3.0-or-later
-// Any text as a statement over a small database: it is answered or ends in a RuntimeError, and the database
-// stays as it is.
+// Any text as a statement over a small database: it is answered or ends in a RuntimeError. What changes rows
+// does so in a copy that is gone afterwards.
 #include "platform/basic/RuntimeError.h"
 #include "platform/jet/Connection.h"
 #include "platform/jet/DatabaseBuilder.h"
@@ -39,10 +39,9 @@ public:
     bool FolderExists(std::string_view) override { return false; }
     std::vector<std::string> SubFolders(std::string_view) override { return {}; }
     void DeleteFile(std::string_view, bool) override { std::abort(); }
-    std::unique_ptr<share::File> openFile(std::string_view, share::OpenMode mode) override {
-        if (mode != share::OpenMode::Read)
-            throw basic::RuntimeError(basic::kPermissionDenied);
-        return std::make_unique<share::MemoryFile>(m_bytes);
+    std::unique_ptr<share::File> openFile(std::string_view path, share::OpenMode) override {
+        const bool isLockFile = path.ends_with(".ldb");
+        return std::make_unique<share::MemoryFile>(isLockFile ? std::vector<std::byte>() : m_bytes);
     }
 
 private:
