@@ -31,6 +31,14 @@ std::int64_t OurTable::count() {
     return std::get<std::int32_t>(rows->Field(0));
 }
 
+void OurTable::deleteAll() {
+    jet::Connection connection(m_engine);
+    connection.Open(m_connectionString);
+    connection.BeginTrans();
+    connection.Execute("DELETE FROM CallLog");
+    connection.CommitTrans();
+}
+
 std::size_t OurTable::readAll() {
     jet::Connection connection(m_engine);
     connection.Open(m_connectionString);

@@ -20,6 +20,8 @@ public:
 
     // What a poll does for one mailbox.
     std::int64_t count();
+    // What the command does to one mailbox's log.
+    void deleteAll();
     // Every column of every row; answers the bytes of all texts.
     std::size_t readAll();
     // The statement of the call list, newest first, with the columns that it shows.
