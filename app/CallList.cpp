@@ -69,10 +69,12 @@ void CallList::showNoMailboxes(errors::Procedure& proc) {
 void CallList::loadMailbox(errors::Procedure& proc, const data::clsConfig& config,
                            const data::clsMailbox& mailbox,
                            const std::vector<data::ColumnDescription>& columns) {
-    auto& connection = m_parts.state.listConnection;
+    // Held: the window may be unloaded while a server is waited for.
+    std::shared_ptr<jet::Connection> connection;
     proc.step([&] { connection = m_parts.common.GetMBXCon(mailbox.ID, config); });
-    if (!connection)
+    if (!connection || !m_parts.state.config)
         return;
+    m_parts.state.listConnection = connection;
     std::shared_ptr<jet::Recordset> records;
     proc.step([&] { records = connection->Execute(data::kAllCalls); });
     if (!records)

@@ -4,6 +4,7 @@
 // Everything that the main window needs from outside, built by the program and handed in: references that
 // outlive the window.
 
+#include "app/ShareAccess.h"
 #include "data/basCommon.h"
 #include "data/clsConfig.h"
 #include "errors/ErrorHandler.h"
@@ -27,6 +28,7 @@ struct MainServices {
     tray::TrayServices tray;
     const basic::DateTimeFormat& dateTimeFormat;
     std::function<std::shared_ptr<data::clsConfig>()> newConfig;
+    ShareAccess shareAccess{};
 };
 
 } // namespace app

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "app/Poll.h"
 
+#include "app/CallCount.h"
 #include "data/CallLog.h"
 #include "platform/basic/RuntimeError.h"
 
@@ -20,13 +21,6 @@ std::int32_t addChecked(std::int32_t a, std::int32_t b) {
     return sum;
 }
 
-std::int32_t firstNumber(jet::Recordset& records) {
-    const basic::Variant& value = records.Field(0);
-    if (const auto* number = std::get_if<std::int32_t>(&value))
-        return *number;
-    throw basic::RuntimeError(basic::kTypeMismatch);
-}
-
 } // namespace
 
 Poll::Poll(Parts parts) : m_parts(std::move(parts)) {}
@@ -37,11 +31,44 @@ void Poll::mTimer_ThatTime() {
         return;
     }
     m_askedAgain = true;
-    if (m_running)
-        return;
+    const bool isAsking = m_parts.shareAccess.countsAhead && m_parts.shareAccess.countsAhead->isAsking();
+    if (!m_running && !isAsking && !m_parts.shareAccess.isWaiting())
+        runPolls();
+}
+
+void Poll::runPolls() {
     const QScopedValueRollback running(m_running, true);
-    while (std::exchange(m_askedAgain, false) && m_parts.state.config)
+    while (std::exchange(m_askedAgain, false) && m_parts.state.config && !askAhead())
         pollOnce();
+}
+
+// True when the poll goes on as soon as the answers are there.
+bool Poll::askAhead() {
+    CountsAhead* countsAhead = m_parts.shareAccess.countsAhead;
+    if (countsAhead == nullptr)
+        return false;
+    const auto config = m_parts.state.config;
+    CountQuestion question{m_parts.common.GetQMPath(config->ServerName), {}};
+    for (const auto& mailbox : config->Mailboxes)
+        question.databases[mailbox->ID] = data::mailboxDatabase(question.share, mailbox->ID);
+    const std::uint32_t generation = m_parts.state.generation;
+    return countsAhead->ask(std::move(question), [this, generation](CountAnswers answers) {
+        m_parts.shareAccess.afterWaiting(
+            [this, generation, answers = std::move(answers)] { runOver(answers, generation); });
+    });
+}
+
+void Poll::runOver(CountAnswers answers, std::uint32_t generation) {
+    if (!m_parts.state.config)
+        return;
+    if (m_parts.state.generation == generation) {
+        const QScopedValueRollback running(m_running, true);
+        m_answers = std::move(answers);
+        pollOnce();
+        m_answers.reset();
+    }
+    if (m_askedAgain)
+        runPolls();
 }
 
 void Poll::exitNow() {
@@ -64,7 +91,7 @@ void Poll::pollOnce() {
     const bool waitedForAnyone = state.nobodyAnswered;
     state.firstPoll = state.firstPoll || waitedForAnyone; // old calls of whoever answers now are not new
     const std::uint32_t generation = state.generation;
-    const bool served = state.notConnected ? proc.value(false, [&] { return m_parts.main.InitConnection(); })
+    const bool served = state.notConnected ? proc.value(false, [&] { return isServerThere(); })
                                            : countAll(proc, generation) && waitedForAnyone;
     if (state.generation != generation)
         return;
@@ -74,14 +101,19 @@ void Poll::pollOnce() {
         concludePoll(proc);
 }
 
+bool Poll::isServerThere() {
+    return m_answers ? m_answers->isShareThere : m_parts.main.InitConnection();
+}
+
 // Answers whether any mailbox told its count. Without a mailbox to watch there is nobody to wait for.
 bool Poll::countAll(errors::Procedure& proc, std::uint32_t generation) {
-    if (!m_parts.state.config->watchesMailboxes())
+    const auto config = m_parts.state.config;
+    if (!config->watchesMailboxes())
         return false;
-    const auto mailboxes = m_parts.state.config->Mailboxes; // a copy: what runs inside may change them
+    const auto mailboxes = config->Mailboxes; // a copy: what runs inside may change them
     bool answered = false;
     for (const auto& mailbox : mailboxes) {
-        answered = countMailbox(proc, *mailbox) || answered;
+        answered = countMailbox(proc, *config, *mailbox) || answered;
         if (!proc.running() || m_parts.state.generation != generation)
             return false;
     }
@@ -91,20 +123,49 @@ bool Poll::countAll(errors::Procedure& proc, std::uint32_t generation) {
 }
 
 // Answers whether the mailbox told its count.
-bool Poll::countMailbox(errors::Procedure& proc, data::clsMailbox& mailbox) {
-    std::shared_ptr<jet::Connection> connection;
-    proc.step([&] { connection = m_parts.common.GetMBXCon(mailbox.ID, *m_parts.state.config); });
-    if (!connection)
-        return false;
-    std::shared_ptr<jet::Recordset> records;
-    proc.step([&] { records = connection->Execute(data::kCountCalls); });
-    if (!records)
-        return false;
+bool Poll::countMailbox(errors::Procedure& proc, const data::clsConfig& config, data::clsMailbox& mailbox) {
     std::optional<std::int32_t> current;
-    proc.step([&] { current = firstNumber(*records); });
+    if (m_answers && m_answers->mailboxes.contains(mailbox.ID))
+        current = countFrom(proc, config, mailbox.ID);
+    else
+        current = count(proc, config, mailbox.ID);
     if (current && *current > mailbox.LastCallCount)
         countGrown(proc, mailbox, *current);
     return current.has_value();
+}
+
+std::optional<std::int32_t> Poll::count(errors::Procedure& proc, const data::clsConfig& config,
+                                        std::int32_t mailboxID) {
+    std::shared_ptr<jet::Connection> connection;
+    proc.step([&] { connection = m_parts.common.GetMBXCon(mailboxID, config); });
+    if (!connection)
+        return std::nullopt;
+    std::shared_ptr<jet::Recordset> records;
+    proc.step([&] { records = connection->Execute(data::kCountCalls); });
+    if (!records)
+        return std::nullopt;
+    std::optional<std::int32_t> current;
+    proc.step([&] { current = callCount(*records); });
+    return current;
+}
+
+// An answer counts once: "try again" asks the server again.
+std::optional<std::int32_t> Poll::countFrom(errors::Procedure& proc, const data::clsConfig& config,
+                                            std::int32_t mailboxID) {
+    std::optional<CountAnswer> answer = m_answers->mailboxes.at(mailboxID);
+    if (!answer->isAvailable)
+        return std::nullopt;
+    std::optional<std::int32_t> current;
+    proc.step([&] {
+        const std::optional<CountAnswer> ahead = std::exchange(answer, std::nullopt);
+        if (!ahead)
+            current = count(proc, config, mailboxID);
+        else if (ahead->failure)
+            throw basic::RuntimeError(*ahead->failure);
+        else
+            current = ahead->count;
+    });
+    return current;
 }
 
 void Poll::countGrown(errors::Procedure& proc, data::clsMailbox& mailbox, std::int32_t current) {

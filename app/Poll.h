@@ -3,11 +3,13 @@
 #pragma once
 // The poll: counts every watched mailbox's calls, adds what is new to the totals, refreshes the list where it
 // can and announces the total. One poll at a time: one that is asked for while another runs (its list refresh
-// lets events run) starts right after. Also carries out the deferred exit and puts the player back. Failures
+// lets events run) starts right after. Servers are asked for all counts ahead, while the window lives on; the
+// routine then runs over their answers. Also carries out the deferred exit and puts the player back. Failures
 // are reported as frmMain's mTimer_ThatTime. What it is given must outlive it; user-interface thread.
 
 #include "app/MainProcedures.h"
 #include "app/MainState.h"
+#include "app/ShareAccess.h"
 #include "data/basCommon.h"
 #include "errors/Procedure.h"
 #include "platform/forms/TabStrip.h"
@@ -30,6 +32,7 @@ public:
         MainState& state;
         MainProcedures& main;
         std::function<void(std::int32_t newCalls)> announce; // shows the popup with this number
+        const ShareAccess& shareAccess;
     };
 
     explicit Poll(Parts parts);
@@ -38,14 +41,23 @@ public:
 
 private:
     void exitNow();
+    void runPolls();
+    bool askAhead();
+    void runOver(CountAnswers answers, std::uint32_t generation);
     void pollOnce();
     bool countAll(errors::Procedure& proc, std::uint32_t generation);
-    bool countMailbox(errors::Procedure& proc, data::clsMailbox& mailbox);
+    bool countMailbox(errors::Procedure& proc, const data::clsConfig& config, data::clsMailbox& mailbox);
+    std::optional<std::int32_t> count(errors::Procedure& proc, const data::clsConfig& config,
+                                      std::int32_t mailboxID);
+    std::optional<std::int32_t> countFrom(errors::Procedure& proc, const data::clsConfig& config,
+                                          std::int32_t mailboxID);
+    bool isServerThere();
     void countGrown(errors::Procedure& proc, data::clsMailbox& mailbox, std::int32_t current);
     void refreshList(errors::Procedure& proc, const data::clsMailbox& mailbox);
     void concludePoll(errors::Procedure& proc);
 
     Parts m_parts;
+    std::optional<CountAnswers> m_answers; // of this poll, where they came ahead
     bool m_running = false;
     bool m_askedAgain = false;
 };

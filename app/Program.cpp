@@ -13,6 +13,7 @@
 
 #include <QApplication>
 #include <QDBusConnection>
+#include <QRandomGenerator>
 #include <QSessionManager>
 
 #include <utility>
@@ -40,21 +41,53 @@ forms::MessageBoxButtonTexts buttonTexts() {
 
 Program::Program(SingleInstance& instance)
     : m_dateTimeFormat(forms::userDateTimeFormat()), m_facts(errors::programFacts(executable())),
-      m_errorHandler(
+      m_shownErrors(
           errorLog(), m_clock,
           [this] { return std::make_unique<errors::frmError>(m_facts, m_errorDialogState, nullptr); }),
+      m_errorHandler(m_shownErrors, [this] { return m_waiter.isEnded(); }),
       m_messageBoxes(buttonTexts(), forms::toQString(resources::kProductTitle)),
       m_registry(registry::pathsFromEnvironment(), m_systemCalls),
-      m_files(share::ShareResolver(data::ShareMappings(m_registry), share::MountTable::systemText)),
-      m_engine(m_files),
+      m_smbServers(smbSurroundings(), smbAddresses()), m_folders(resolver()),
+      m_servers(m_smbServers, m_waiter), m_files(resolver(), m_folders, m_servers),
+      m_countsAhead(m_smbServers, resolver()), m_engine(m_files),
       m_common(m_errorHandler, m_files, [this] { return std::make_shared<jet::Connection>(m_engine); }),
       m_trayHosts(QDBusConnection::sessionBus()), m_notificationArea(m_windows, m_icons, m_trayHosts),
       m_areaWatch(m_trayHosts, m_patience),
-      m_main({m_errorHandler, m_files, m_common, m_clipboard, m_desktop,
-              tray::TrayServices{m_notificationArea, m_windows, m_icons}, m_dateTimeFormat, [this] {
-                  return std::make_shared<data::clsConfig>(m_registry, m_messageBoxes, m_errorHandler);
-              }}) {
+      m_main(
+          {m_errorHandler, m_files, m_common, m_clipboard, m_desktop,
+           tray::TrayServices{m_notificationArea, m_windows, m_icons}, m_dateTimeFormat,
+           [this] { return std::make_shared<data::clsConfig>(m_registry, m_messageBoxes, m_errorHandler); },
+           shareAccess()}) {
     connectEvents(instance);
+}
+
+share::ShareResolver Program::resolver() {
+    return {data::ShareMappings(m_registry), share::MountTable::systemText};
+}
+
+share::smb::SmbServers::Addresses Program::smbAddresses() {
+    return [mappings = data::ShareMappings(m_registry)](std::string_view server) {
+        return share::smb::addressOf(mappings(server).value_or(std::string()));
+    };
+}
+
+share::smb::SmbServer::Surroundings Program::smbSurroundings() {
+    return {.program = share::smb::helperProgram(),
+            .spread = [] { return QRandomGenerator::global()->generateDouble(); },
+            .credentials = [](const std::string&) { return share::smb::Credentials{}; }};
+}
+
+ShareAccess Program::shareAccess() {
+    return {.isWaiting = [this] { return m_waiter.isWaiting(); },
+            .afterWaiting = [this](std::function<void()> work) { m_waiter.afterWaiting(std::move(work)); },
+            .userActs = [this] { m_smbServers.tryNow(); },
+            .userLogsOn = [this] { m_smbServers.logOnAnew(); },
+            .endWaits =
+                [this] {
+                    m_countsAhead.end();
+                    m_waiter.endWaits();
+                },
+            .countsAhead = &m_countsAhead};
 }
 
 void Program::connectEvents(SingleInstance& instance) {

@@ -5,6 +5,9 @@
 // and runs the event loop. What is declared first is needed by what follows and outlives it. One object, on
 // the user-interface thread, gone before the application object.
 
+#include "app/CountsAhead.h"
+#include "app/LastErrors.h"
+#include "app/ShareWaiter.h"
 #include "app/SingleInstance.h"
 #include "app/TerminationSignals.h"
 #include "app/frmMain.h"
@@ -18,6 +21,8 @@
 #include "platform/jet/Engine.h"
 #include "platform/registry/Registry.h"
 #include "platform/share/LocalFileSystemObject.h"
+#include "platform/share/RoutedFileSystemObject.h"
+#include "platform/share/smb/SmbFileSystemObject.h"
 #include "platform/shell/DelayTimer.h"
 #include "platform/shell/DesktopNotificationArea.h"
 #include "platform/shell/DesktopTrayHosts.h"
@@ -37,17 +42,27 @@ public:
 
 private:
     void connectEvents(SingleInstance& instance);
+    share::smb::SmbServer::Surroundings smbSurroundings();
+    share::smb::SmbServers::Addresses smbAddresses();
+    share::ShareResolver resolver();
+    ShareAccess shareAccess();
 
     basic::SystemClock m_clock;
     basic::DateTimeFormat m_dateTimeFormat;
     errors::ProgramFacts m_facts;
     errors::ErrorDialogState m_errorDialogState;
-    errors::basErrHandling m_errorHandler;
+    errors::basErrHandling m_shownErrors;
+    ShareWaiter m_waiter;
+    LastErrors m_errorHandler;
     forms::QtMessageBoxes m_messageBoxes;
     forms::QtClipboard m_clipboard;
     registry::SystemCalls m_systemCalls;
     registry::Registry m_registry;
-    share::LocalFileSystemObject m_files;
+    share::smb::SmbServers m_smbServers;
+    share::LocalFileSystemObject m_folders;
+    share::smb::SmbFileSystemObject m_servers;
+    share::RoutedFileSystemObject m_files;
+    CountsAhead m_countsAhead;
     jet::Engine m_engine;
     data::basCommon m_common;
     shell::WindowTable m_windows;

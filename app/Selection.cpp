@@ -39,7 +39,8 @@ void Selection::ChangeItem() {
                 openMailbox(proc, *mailboxID);
         }
     }
-    proc.step([&] { m_parts.itemChanged(m_parts.state.currentConnection, callID); });
+    const auto connection = m_parts.state.currentConnection; // held while others work with it
+    proc.step([&] { m_parts.itemChanged(connection, callID); });
 }
 
 void Selection::openMailbox(errors::Procedure& proc, std::int32_t mailboxID) {

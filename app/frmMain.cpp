@@ -24,6 +24,7 @@ namespace {
 
 constexpr QSize kFirstSize{640, 420};
 constexpr std::intptr_t kAllBits = -1;
+constexpr std::string_view kOptions = "miVOptions";
 
 QString text(std::int32_t id, std::string_view english) {
     return forms::toQString(resources::LoadLocalString(id, english));
@@ -67,7 +68,7 @@ frmMain::frmMain(const MainServices& services)
                   m_state,
                   *this}),
       m_poll({services.errorHandler, services.common, m_TabStrip, m_mTimer, m_state, *this,
-              [this](std::int32_t newCalls) { announce(newCalls); }}),
+              [this](std::int32_t newCalls) { announce(newCalls); }, m_services.shareAccess}),
       m_mailboxData({services.errorHandler, services.common, services.files, m_lsCalls, m_TabStrip, m_mTimer,
                      m_state, *this}),
       m_commands(services.errorHandler), m_trayEvents({services.errorHandler, m_mTimer, m_state, *this}),
@@ -86,6 +87,7 @@ frmMain::frmMain(const MainServices& services)
     layOutCommandBar(m_ab);
     addCommands();
     m_messages.attach();
+    connect(&m_TabStrip, &forms::TabStrip::Click, this, [this] { m_services.shareAccess.userActs(); });
     connect(&m_mTimer, &forms::Timer::ThatTime, this, [this] {
         showIfUnreachable();
         mTimer_ThatTime();
@@ -143,7 +145,17 @@ void frmMain::loadDialogs() {
             [this](bool& showList) { AlertForm_Show(showList); });
 }
 
+// A command that comes while a server is waited for (from the tray's menu: the window takes none) runs after.
+void frmMain::ab_ToolClick(std::string_view toolName) {
+    m_services.shareAccess.userActs();
+    if (toolName == kOptions)
+        m_services.shareAccess.userLogsOn();
+    m_services.shareAccess.afterWaiting(
+        [this, name = std::string(toolName)] { m_commands.ab_ToolClick(name); });
+}
+
 void frmMain::AlertForm_Show(bool showList) {
+    m_services.shareAccess.userActs();
     errors::Procedure proc{m_services.errorHandler, "frmMain", "AlertForm_Show"};
     proc.step([&] { LoadList(); });
     if (showList)
@@ -223,6 +235,7 @@ void frmMain::unload(UnloadMode mode) {
     if (m_isUnloaded || !Form_QueryUnload(mode))
         return;
     m_isUnloaded = true;
+    m_services.shareAccess.endWaits();
     ++m_state.generation;
     Form_Unload();
     hide();

@@ -50,7 +50,7 @@ public:
     void ChangeItem() override { m_selection.ChangeItem(); }
     void UpdateButtonStates() override { m_buttonStates.UpdateButtonStates(); }
     void mTimer_ThatTime() override { m_poll.mTimer_ThatTime(); }
-    void ab_ToolClick(std::string_view toolName) override { m_commands.ab_ToolClick(toolName); }
+    void ab_ToolClick(std::string_view toolName) override;
     void showWindow() override;
     void hideWindow() override;
     void dockPlayer() override;

@@ -51,9 +51,13 @@ std::shared_ptr<jet::Connection> basCommon::GetMBXCon(std::int32_t mailboxID, co
     proc.step([&] { connection = m_newConnection(); });
     proc.step([&] { path = mailboxDatabase(GetQMPath(config.ServerName), mailboxID); });
     const bool exists = proc.value(false, [&] { return m_files.FileExists(path); });
-    if (!connection || !exists || !proc.running() || !opens(*connection, kProvider + path))
+    if (!connection || !exists || !proc.running() || !opens(*connection, connectionString(path)))
         return nullptr;
     return connection;
+}
+
+std::string connectionString(const std::string& database) {
+    return kProvider + database;
 }
 
 std::string mailboxFolder(std::string_view qmPath, std::int32_t mailboxID) {

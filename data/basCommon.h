@@ -38,6 +38,9 @@ private:
     NewConnection m_newConnection;
 };
 
+// The provider's connection string for a database.
+std::string connectionString(const std::string& database);
+
 // Below a server's share root: the mailbox's folder, its call log, and the sound of one call.
 std::string mailboxFolder(std::string_view qmPath, std::int32_t mailboxID);
 std::string mailboxDatabase(std::string_view qmPath, std::int32_t mailboxID);

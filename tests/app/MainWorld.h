@@ -85,6 +85,7 @@ protected:
     jet::Engine engine{files, [](int) {}};
     data::basCommon common{errorHandler, files, [this] { return std::make_shared<jet::Connection>(engine); }};
     std::map<int, tests::CallLogFile> mailboxes;
+    ShareAccess shareAccess;
     std::optional<frmMain> window;
 };
 

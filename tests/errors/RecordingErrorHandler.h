@@ -7,6 +7,7 @@
 #include "errors/ErrorHandler.h"
 
 #include <deque>
+#include <functional>
 #include <string>
 #include <vector>
 
@@ -23,23 +24,24 @@ struct Report {
 class RecordingErrorHandler final : public ErrorHandler {
 public:
     RecordingErrorHandler() = default;
-    RecordingErrorHandler(std::initializer_list<ErrorAction> answers) : m_answers(answers) {}
+    RecordingErrorHandler(std::initializer_list<ErrorAction> first) : answers(first) {}
 
     ErrorAction ReportError(std::string_view module, std::string_view procedure, std::int32_t number,
                             std::string_view description, std::int32_t line) override {
         reports.push_back(
             {std::string(module), std::string(procedure), number, std::string(description), line});
-        if (m_answers.empty())
+        if (onReport)
+            onReport();
+        if (answers.empty())
             return ErrorAction::Abort;
-        const ErrorAction answer = m_answers.front();
-        m_answers.pop_front();
+        const ErrorAction answer = answers.front();
+        answers.pop_front();
         return answer;
     }
 
     std::vector<Report> reports;
-
-private:
-    std::deque<ErrorAction> m_answers;
+    std::deque<ErrorAction> answers;
+    std::function<void()> onReport; // before the answer
 };
 
 } // namespace errors

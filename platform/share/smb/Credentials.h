@@ -19,6 +19,10 @@ struct Credentials {
     bool isAnybody() const noexcept { return user.empty(); }
     Credentials clone() const { return {domain, user, password.clone()}; }
 
+    bool operator==(const Credentials& other) const noexcept {
+        return domain == other.domain && user == other.user && password.view() == other.password.view();
+    }
+
     // Takes DOMAIN\user and DOMAIN/user apart. user@REALM stays as it is: servers know it as a whole.
     static Credentials of(std::string_view userName, std::string_view password);
 };

@@ -28,7 +28,7 @@ SmbServer::SmbServer(std::string name, ServerAddress address, const Surroundings
 Response SmbServer::call(const Request& request, Waiter& waiter, std::string_view what) {
     const Turn turn(m_turns, waiter, kLongestTurn);
     forgetIfAsked();
-    if (m_isRefused || m_backOff.isPausing())
+    if (m_refused || m_backOff.isPausing())
         throw failure(m_lastFailure, what, request.path);
     startHelper(waiter);
     Response response = m_helper ? exchange(request, waiter) : m_lastFailure;
@@ -39,11 +39,20 @@ Response SmbServer::call(const Request& request, Waiter& waiter, std::string_vie
 }
 
 void SmbServer::forgetIfAsked() {
-    if (!m_tryNow.exchange(false))
+    const bool anew = m_logOnAnew.exchange(false);
+    if (!m_tryNow.exchange(false) && !anew)
         return;
     m_backOff.succeeded();
-    if (std::exchange(m_isRefused, false))
-        m_helper.reset(); // other credentials may be there by now
+    if (m_refused)
+        forgetRefusal(anew);
+}
+
+// Accounts are locked after a few wrong passwords: a click is no reason to try the same one again.
+void SmbServer::forgetRefusal(bool evenOfTheSame) {
+    if (!evenOfTheSame && m_surroundings.credentials(m_name) == *m_refused)
+        return;
+    m_refused.reset();
+    m_helper.reset();
 }
 
 void SmbServer::startHelper(Waiter& waiter) {
@@ -53,7 +62,8 @@ void SmbServer::startHelper(Waiter& waiter) {
         return;
     m_helper = std::make_unique<HelperProcess>(m_surroundings.program);
     Request logOn{.verb = Verb::LogOn, .length = m_address.port, .path = m_address.host};
-    logOn.data = encodeLogOn(m_surroundings.credentials(m_name));
+    m_credentials = m_surroundings.credentials(m_name);
+    logOn.data = encodeLogOn(m_credentials);
     m_lastFailure = exchange(logOn, waiter);
     wipe(logOn.data.data(), logOn.data.size());
 }
@@ -97,7 +107,7 @@ void SmbServer::judge(const Response& response) {
     case Stage::Handle: // found out without asking the server
         return;
     case Stage::LogOn:
-        m_isRefused = true;
+        m_refused = m_credentials.clone();
         break;
     default:
         if (response.failure != ECANCELED)

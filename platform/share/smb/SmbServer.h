@@ -11,6 +11,7 @@
 #include "platform/share/smb/Credentials.h"
 #include "platform/share/smb/HelperProcess.h"
 #include "platform/share/smb/Messages.h"
+#include "platform/share/smb/ServerAddress.h"
 #include "platform/share/smb/Turn.h"
 
 #include <atomic>
@@ -22,11 +23,6 @@
 #include <string_view>
 
 namespace share::smb {
-
-struct ServerAddress {
-    std::string host;
-    std::uint16_t port = 445;
-};
 
 // Who is to log on to a server with this name; asked when a connection is made, on the thread that needs it.
 using CredentialSource = std::function<Credentials(const std::string& server)>;
@@ -49,8 +45,11 @@ public:
     // to be done, for the text.
     Response call(const Request& request, Waiter& waiter, std::string_view what);
 
-    // The user wants it now: the next request is made at once, whatever happened before. Any thread.
+    // The user wants it now: the next request is made at once. A user who was refused is asked for again, and
+    // tried only if it is another one or has another password. Any thread.
     void tryNow() noexcept { m_tryNow = true; }
+    // The same, and a refused user is tried again as well.
+    void logOnAnew() noexcept { m_logOnAnew = true; }
     // A number that no other file of this server ever had.
     std::uint32_t newHandle() noexcept { return ++m_lastHandle; }
     // Of the running helper; -1 without one.
@@ -58,6 +57,7 @@ public:
 
 private:
     void forgetIfAsked();
+    void forgetRefusal(bool evenOfTheSame);
     void startHelper(Waiter& waiter);
     Response exchange(const Request& request, Waiter& waiter);
     Response lost(std::int32_t errnoValue);
@@ -68,12 +68,14 @@ private:
     const Surroundings& m_surroundings;
     TurnGate m_turns;
     std::atomic<bool> m_tryNow = false;
+    std::atomic<bool> m_logOnAnew = false;
     std::atomic<std::uint32_t> m_lastHandle = 0;
 
     // Only for who has the turn.
     BackOff m_backOff;
     Response m_lastFailure;
-    bool m_isRefused = false;
+    std::optional<Credentials> m_refused;
+    Credentials m_credentials; // of the running helper
     std::unique_ptr<HelperProcess> m_helper;
     std::chrono::milliseconds m_lastUse{0};
 };

@@ -23,4 +23,10 @@ void SmbServers::tryNow() {
         server->tryNow();
 }
 
+void SmbServers::logOnAnew() {
+    const std::scoped_lock lock(m_mutex);
+    for (const auto& [name, server] : m_servers)
+        server->logOnAnew();
+}
+
 } // namespace share::smb

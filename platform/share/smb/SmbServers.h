@@ -28,6 +28,8 @@ public:
     SmbServer& server(const std::string& name);
     // The user's own click: servers that are left alone are tried at the next request.
     void tryNow();
+    // The user looks after the settings: users who were refused are tried again as well.
+    void logOnAnew();
 
 private:
     const SmbServer::Surroundings m_surroundings;

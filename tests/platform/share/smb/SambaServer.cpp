@@ -91,18 +91,19 @@ void SambaServer::writeConfiguration(const Options& options) const {
         m_own.makeFolder(folder);
     m_own.makeFile("users", std::string("root = ") + kUser + " " + options.userNames + "\n");
     const std::string own = m_own.path();
-    m_own.makeFile("smb.conf",
-                   "[global]\nserver role = standalone server\nworkgroup = QMTEST\ninterfaces = 127.0.0.1\n"
-                   "bind interfaces only = yes\nsmb ports = " +
-                       std::to_string(m_port) + "\nprivate dir = " + own +
-                       "/private\nlock directory = " + own + "/lock\nstate directory = " + own +
-                       "/state\ncache directory = " + own + "/cache\npid directory = " + own +
-                       "/pid\nncalrpc dir = " + own + "/ncalrpc\npassdb backend = smbpasswd:" + own +
-                       "/private/smbpasswd\nlog file = " + own +
-                       "/log\nlog level = 1 auth_audit:3\ndisable netbios = yes\ndisable spoolss = yes\n"
-                       "load printers = no\nprintcap name = /dev/null\nusername map = " +
-                       own + "/users\n" + options.global + "\n[Quillamar_0$]\npath = " + m_share.path() +
-                       "\nread only = no\nbrowseable = no\n" + options.ofShare + "\n");
+    m_own.makeFile(
+        "smb.conf",
+        "[global]\nserver role = standalone server\nworkgroup = QMTEST\ninterfaces = 127.0.0.1\n"
+        "bind interfaces only = yes\nsmb ports = " +
+            std::to_string(m_port) + "\nprivate dir = " + own + "/private\nlock directory = " + own +
+            "/lock\nstate directory = " + own + "/state\ncache directory = " + own +
+            "/cache\npid directory = " + own + "/pid\nncalrpc dir = " + own +
+            "/ncalrpc\npassdb backend = smbpasswd:" + own + "/private/smbpasswd\nlog file = " + own +
+            "/log\nlog level = 1 auth_audit:3\ndisable netbios = yes\ndisable spoolss = yes\n"
+            "load printers = no\nprintcap name = /dev/null\nusername map = " +
+            own + "/users\n" + options.global +
+            "\n[Quillamar_0$]\npath = " + (options.folder.empty() ? m_share.path() : options.folder) +
+            "\nread only = no\nbrowseable = no\n" + options.ofShare + "\n");
 }
 
 void SambaServer::setPassword(const std::string& password) const {

@@ -18,6 +18,7 @@ namespace share::testing {
 class SambaServer {
 public:
     struct Options {
+        std::string folder{}; // the share's; one of its own if empty
         std::string password = "secret";
         std::string global{};    // more lines of the configuration
         std::string ofShare{};   // more lines for the share

@@ -55,16 +55,27 @@ TEST(SmbLogOn, TriesAWrongPasswordOnceHoweverOftenItIsAsked) {
     EXPECT_EQ(samba.logOns("NT_STATUS_OK"), 0);
 }
 
-TEST(SmbLogOn, TriesAgainWhenTheUserWantsIt) {
+TEST(SmbLogOn, TriesAnotherPasswordWhenTheUserClicksAndNotTheSameOne) {
     SambaServer samba;
     SmbClient client(samba.port());
     client.password = "wrong";
     EXPECT_FALSE(client.files().FolderExists(onShare("")));
     client.servers().tryNow();
     EXPECT_FALSE(client.files().FolderExists(onShare("")));
-    EXPECT_EQ(samba.logOns(kWrong), 2);
+    EXPECT_EQ(samba.logOns(kWrong), 1);
     client.password = "secret";
+    EXPECT_FALSE(client.files().FolderExists(onShare("")));
     client.servers().tryNow();
+    EXPECT_TRUE(client.files().FolderExists(onShare("")));
+}
+
+TEST(SmbLogOn, TriesTheSamePasswordAgainWhenToldSo) {
+    SambaServer samba;
+    SmbClient client(samba.port());
+    client.password = "wrong";
+    EXPECT_FALSE(client.files().FolderExists(onShare("")));
+    samba.setPassword("wrong");
+    client.servers().logOnAnew();
     EXPECT_TRUE(client.files().FolderExists(onShare("")));
 }
 

@@ -1,0 +1,77 @@
+// SPDX-FileCopyrightText: 2026 The qmClient authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "app/CountsAhead.h"
+
+#include "app/CallCount.h"
+#include "data/CallLog.h"
+#include "data/basCommon.h"
+#include "platform/jet/Connection.h"
+
+#include <utility>
+
+namespace app {
+
+CountsAhead::CountsAhead(share::smb::SmbServers& servers, share::ShareResolver resolver)
+    : m_servers(servers), m_resolver(std::move(resolver)) {}
+
+CountsAhead::~CountsAhead() {
+    end();
+}
+
+void CountsAhead::end() noexcept {
+    m_waiter.cancel();
+}
+
+bool CountsAhead::ask(CountQuestion question, Done done) {
+    try {
+        const auto root = share::UncPath::parse(question.share);
+        if (m_resolver.resolve(root).way != share::Way::Server)
+            return false;
+        m_servers.server(root.server()); // its address is looked up here, not on the other thread
+    } catch (const basic::RuntimeError&) {
+        return false; // the routine finds out for itself
+    }
+    m_isAsking = true;
+    m_thread = std::jthread([this, question = std::move(question), done = std::move(done)] {
+        CountAnswers answers = answersTo(question);
+        QMetaObject::invokeMethod(
+            this,
+            [this, done, answers = std::move(answers)] {
+                m_isAsking = false;
+                done(answers);
+            },
+            Qt::QueuedConnection);
+    });
+    return true;
+}
+
+CountAnswers CountsAhead::answersTo(const CountQuestion& question) {
+    CountAnswers answers;
+    answers.isShareThere = m_files.FolderExists(question.share);
+    for (const auto& [mailbox, database] : question.databases)
+        answers.mailboxes[mailbox] = answers.isShareThere ? countOf(database) : CountAnswer{};
+    return answers;
+}
+
+CountAnswer CountsAhead::countOf(const std::string& database) {
+    CountAnswer answer;
+    jet::Connection connection(m_engine);
+    try {
+        if (!m_files.FileExists(database))
+            return answer;
+        connection.Open(data::connectionString(database));
+    } catch (const std::exception&) { // a mailbox that is not available now, as for everybody
+        return answer;
+    }
+    answer.isAvailable = true;
+    try {
+        answer.count = callCount(*connection.Execute(data::kCountCalls));
+    } catch (const basic::RuntimeError& error) {
+        answer.failure = error;
+    } catch (const std::exception& error) {
+        answer.failure = basic::RuntimeError(basic::kInternalError, error.what());
+    }
+    return answer;
+}
+
+} // namespace app

@@ -1,0 +1,87 @@
+// SPDX-FileCopyrightText: 2026 The qmClient authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "app/ShareWaiter.h"
+
+#include <QSocketNotifier>
+#include <QTimer>
+
+#include <poll.h>
+
+#include <algorithm>
+#include <utility>
+
+namespace app {
+namespace {
+
+using share::smb::Waited;
+
+enum LoopEnd { kReadable = 1, kTimeOver = 2 }; // anything else is the end of the program
+
+} // namespace
+
+Waited ShareWaiter::untilReadable(int descriptor, std::chrono::milliseconds atMost) {
+    if (m_isEnded || isWaiting())
+        return Waited::Cancelled;
+    if (isSoonReadable(descriptor, atMost))
+        return Waited::Ready;
+    return letEventsRun(descriptor, atMost);
+}
+
+// A list is loaded with many quick requests: an event loop for each would cost more than they do.
+bool ShareWaiter::isSoonReadable(int descriptor, std::chrono::milliseconds atMost) {
+    if (!m_sinceEvents.isValid())
+        return false;
+    const auto left = kPatience - std::chrono::milliseconds(m_sinceEvents.elapsed());
+    if (left.count() <= 0)
+        return false;
+    pollfd watched{descriptor, POLLIN, 0};
+    return ::poll(&watched, 1, static_cast<int>(std::min(left, atMost).count())) > 0;
+}
+
+Waited ShareWaiter::letEventsRun(int descriptor, std::chrono::milliseconds atMost) {
+    QEventLoop loop;
+    QSocketNotifier readable(descriptor, QSocketNotifier::Read);
+    connect(&readable, &QSocketNotifier::activated, &loop, [&loop] { loop.exit(kReadable); });
+    QTimer deadline;
+    deadline.setSingleShot(true);
+    connect(&deadline, &QTimer::timeout, &loop, [&loop] { loop.exit(kTimeOver); });
+    deadline.start(atMost);
+
+    m_loop = &loop;
+    const int end = loop.exec(QEventLoop::ExcludeUserInputEvents);
+    m_loop = nullptr;
+    m_sinceEvents.start();
+    if (!m_later.empty())
+        QMetaObject::invokeMethod(this, &ShareWaiter::runNext, Qt::QueuedConnection);
+    if (m_isEnded || (end != kReadable && end != kTimeOver))
+        return Waited::Cancelled;
+    return end == kReadable ? Waited::Ready : Waited::TimeOver;
+}
+
+void ShareWaiter::afterWaiting(std::function<void()> work) {
+    if (!isWaiting()) {
+        work();
+        return;
+    }
+    m_later.push_back(std::move(work));
+}
+
+// Runs from the event loop. If that is the loop of another wait, the end of that wait calls again.
+void ShareWaiter::runNext() {
+    if (isWaiting() || m_later.empty())
+        return;
+    const std::function<void()> work = std::move(m_later.front());
+    m_later.pop_front();
+    if (!m_later.empty())
+        QMetaObject::invokeMethod(this, &ShareWaiter::runNext, Qt::QueuedConnection);
+    work();
+}
+
+void ShareWaiter::endWaits() {
+    m_isEnded = true;
+    m_later.clear();
+    if (m_loop != nullptr)
+        m_loop->exit();
+}
+
+} // namespace app

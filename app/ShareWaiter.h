@@ -1,0 +1,48 @@
+// SPDX-FileCopyrightText: 2026 The qmClient authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+// How the user-interface thread waits for a server: short waits are slept through, longer ones let painting
+// and the system's events go on in an event loop of their own, while the user's input stays where it is until
+// the wait is over. Whatever else wants to begin meanwhile (a tick, a command of the tray menu) asks
+// isWaiting() or comes by afterWaiting(). One wait at a time: a wait from inside a wait ends at once, as
+// cancelled. User-interface thread.
+
+#include "platform/share/smb/Waiter.h"
+
+#include <QElapsedTimer>
+#include <QEventLoop>
+#include <QObject>
+
+#include <deque>
+#include <functional>
+
+namespace app {
+
+class ShareWaiter final : public QObject, public share::smb::Waiter {
+    Q_OBJECT
+public:
+    // How long events may be kept waiting before they are let run.
+    static constexpr std::chrono::milliseconds kPatience{50};
+
+    share::smb::Waited untilReadable(int descriptor, std::chrono::milliseconds atMost) override;
+
+    bool isWaiting() const noexcept { return m_loop != nullptr; }
+    // Runs `work` now, or as soon as nobody waits any more.
+    void afterWaiting(std::function<void()> work);
+    // The program ends: this wait and all later ones are cancelled, and what came by afterWaiting() is
+    // dropped.
+    void endWaits();
+    bool isEnded() const noexcept { return m_isEnded; }
+
+private:
+    bool isSoonReadable(int descriptor, std::chrono::milliseconds atMost);
+    share::smb::Waited letEventsRun(int descriptor, std::chrono::milliseconds atMost);
+    void runNext();
+
+    QEventLoop* m_loop = nullptr; // of the wait that is under way
+    QElapsedTimer m_sinceEvents;  // not started: nobody knows
+    std::deque<std::function<void()>> m_later;
+    bool m_isEnded = false;
+};
+
+} // namespace app

@@ -1,0 +1,172 @@
+// SPDX-FileCopyrightText: 2026 The qmClient authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "tests/app/MainWorld.h"
+#include "tests/platform/share/smb/SambaServer.h"
+
+#include <QTest>
+
+#include <filesystem>
+
+namespace app {
+namespace {
+
+// The main window over a server that is really asked: the list reads the share's folder, the counts come
+// ahead by SMB.
+class PollAheadTest : public MainWorld {
+protected:
+    PollAheadTest() {
+        shareAccess.countsAhead = &m_counts;
+        shareAccess.endWaits = [this] { m_counts.end(); };
+    }
+
+    void loadAndLearn() {
+        load();
+        finishPoll();
+    }
+    // Until the answers came and the routine ran over them.
+    void finishPoll() {
+        ASSERT_TRUE(QTest::qWaitFor([this] { return !m_counts.isAsking(); }, 60'000));
+    }
+    void tickAndFinish() {
+        tick();
+        finishPoll();
+    }
+
+    share::testing::SambaServer m_samba{{.folder = folder.makeFolder("share")}};
+    share::smb::SmbServers m_servers{{.program = share::smb::helperProgram(),
+                                      .spread = [] { return 0.0; },
+                                      .credentials =
+                                          [](const std::string&) {
+                                              return share::smb::Credentials::of(
+                                                  share::testing::SambaServer::kUser, "secret");
+                                          }},
+                                     [this](std::string_view) {
+                                         return share::smb::ServerAddress{"127.0.0.1", m_samba.port()};
+                                     }};
+    CountsAhead m_counts{m_servers, share::ShareResolver(nullptr, nullptr)};
+};
+
+TEST_F(PollAheadTest, AnnouncesWhatTheServerCounted) {
+    configure({12, 15});
+    mailbox(12).append(12);
+    mailbox(15).append(1);
+    loadAndLearn();
+    EXPECT_EQ(window->state().config->Mailboxes.at(1)->LastCallCount, 12);
+    EXPECT_EQ(popup(), nullptr);
+    mailbox(12).append(2);
+    mailbox(15).append(5);
+    tickAndFinish();
+    EXPECT_EQ(popupText(), "You have  7  new calls");
+}
+
+TEST_F(PollAheadTest, ReturnsToTheEventLoopWhileTheServerHangs) {
+    configure({12});
+    mailbox(12).append(12);
+    loadAndLearn();
+    mailbox(12).append(3);
+    m_samba.pause();
+    tick();
+    EXPECT_TRUE(m_counts.isAsking());
+    EXPECT_EQ(popup(), nullptr);
+    m_samba.resume();
+    finishPoll();
+    EXPECT_EQ(popupText(), "You have  3  new calls");
+}
+
+TEST_F(PollAheadTest, PollsOnceMoreForAllTicksThatComeMeanwhile) {
+    configure({12});
+    mailbox(12).append(12);
+    loadAndLearn();
+    m_samba.pause();
+    tick();
+    tick();
+    tick();
+    m_samba.resume();
+    finishPoll();
+    EXPECT_EQ(popup(), nullptr);
+    mailbox(12).append(3);
+    tickAndFinish();
+    EXPECT_EQ(popupText(), "You have  3  new calls");
+}
+
+TEST_F(PollAheadTest, SkipsAMailboxThatIsMissingWithoutAWord) {
+    configure({12, 15});
+    mailbox(15).append(1);
+    loadAndLearn();
+    mailbox(15).append(1);
+    tickAndFinish();
+    EXPECT_EQ(popupText(), "You have  1  new calls");
+    EXPECT_TRUE(errorHandler.reports.empty());
+}
+
+TEST_F(PollAheadTest, ReportsACountThatFailedAndTryAgainAsksTheServerAnew) {
+    configure({12});
+    mailbox(12).append(5);
+    loadAndLearn();
+    const auto file = mailbox(12).path();
+    const auto kept = folder.path("kept.mdb");
+    std::filesystem::copy_file(file, kept);
+    std::filesystem::resize_file(file, 3 * 4096);
+    errorHandler.answers.push_back(errors::ErrorAction::Retry);
+    errorHandler.onReport = [&] {
+        std::filesystem::copy_file(kept, file, std::filesystem::copy_options::overwrite_existing);
+        mailbox(12).append(2);
+        errorHandler.onReport = nullptr;
+    };
+    tickAndFinish();
+    ASSERT_EQ(errorHandler.reports.size(), 1U);
+    EXPECT_EQ(errorHandler.reports[0].procedure, "mTimer_ThatTime");
+    EXPECT_EQ(popupText(), "You have  2  new calls");
+}
+
+TEST_F(PollAheadTest, AsksAnewWhenTheConfigurationWasLoadedMeanwhile) {
+    configure({12});
+    mailbox(12).append(12);
+    loadAndLearn();
+    mailbox(12).append(3);
+    m_samba.pause();
+    tick();
+    window->InitData(); // learns the counts anew: the three are not new to it
+    m_samba.resume();
+    finishPoll();
+    finishPoll();
+    EXPECT_EQ(popup(), nullptr);
+    EXPECT_TRUE(
+        QTest::qWaitFor([this] { return window->state().config->Mailboxes.at(1)->LastCallCount == 15; }));
+    EXPECT_EQ(window->state().newCallTotal, 0);
+}
+
+TEST_F(PollAheadTest, IsLeftByTheEndOfTheProgramAtOnce) {
+    configure({12});
+    mailbox(12).append(12);
+    loadAndLearn();
+    m_samba.pause();
+    tick();
+    window->state().exitRequested = true;
+    tick();
+    EXPECT_EQ(window->state().config, nullptr);
+    finishPoll(); // the question ended without its answer
+}
+
+TEST_F(PollAheadTest, FindsAServerThatComesUpLater) {
+    configure({12});
+    mailbox(12).append(12);
+    std::filesystem::rename(folder.path("share"), folder.path("away"));
+    loadAndLearn();
+    EXPECT_EQ(onlyLine(), "A connection to the server could not be established.");
+    std::filesystem::rename(folder.path("away"), folder.path("share"));
+    tickAndFinish();
+    finishPoll();
+    EXPECT_EQ(column(0).size(), 12U);
+    EXPECT_EQ(popup(), nullptr);
+}
+
+TEST_F(PollAheadTest, IsNotUsedForAFolderOfThisMachine) {
+    CountsAhead counts(
+        m_servers,
+        share::ShareResolver([](std::string_view) { return std::optional<std::string>("/srv"); }, nullptr));
+    EXPECT_FALSE(counts.ask({"\\\\srv01\\Quillamar_0$", {}}, [](const CountAnswers&) { FAIL(); }));
+}
+
+} // namespace
+} // namespace app

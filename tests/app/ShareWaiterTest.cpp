@@ -1,0 +1,117 @@
+// SPDX-FileCopyrightText: 2026 The qmClient authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "app/ShareWaiter.h"
+
+#include "platform/share/smb/PacketSocket.h"
+
+#include <QCoreApplication>
+#include <QTest>
+#include <QTimer>
+
+#include <gtest/gtest.h>
+
+namespace app {
+namespace {
+
+using namespace std::chrono_literals;
+using share::smb::Waited;
+
+class ShareWaiterTest : public testing::Test {
+protected:
+    void answer() { m_there.send(std::vector<std::byte>(1)); }
+    Waited wait(std::chrono::milliseconds atMost = 60min) {
+        return m_waiter.untilReadable(m_here.descriptor(), atMost);
+    }
+
+    std::pair<share::smb::PacketSocket, share::smb::PacketSocket> m_ends = share::smb::PacketSocket::pair();
+    share::smb::PacketSocket& m_here = m_ends.first;
+    share::smb::PacketSocket& m_there = m_ends.second;
+    ShareWaiter m_waiter;
+};
+
+TEST_F(ShareWaiterTest, LetsEventsRunUntilTheAnswerComes) {
+    QTimer::singleShot(0, &m_waiter, [this] {
+        EXPECT_TRUE(m_waiter.isWaiting());
+        answer();
+    });
+    EXPECT_EQ(wait(), Waited::Ready);
+    EXPECT_FALSE(m_waiter.isWaiting());
+}
+
+TEST_F(ShareWaiterTest, EndsAtTheDeadline) {
+    EXPECT_EQ(wait(1ms), Waited::TimeOver);
+}
+
+TEST_F(ShareWaiterTest, IsCancelledByTheEndOfTheProgram) {
+    QTimer::singleShot(0, &m_waiter, [this] { m_waiter.endWaits(); });
+    EXPECT_EQ(wait(), Waited::Cancelled);
+    answer();
+    EXPECT_EQ(wait(), Waited::Cancelled);
+    EXPECT_TRUE(m_waiter.isEnded());
+}
+
+TEST_F(ShareWaiterTest, IsCancelledWhenTheEventLoopsEnd) {
+    Waited waited = Waited::Ready;
+    QTimer::singleShot(0, &m_waiter, [&] {
+        QTimer::singleShot(0, &m_waiter, [] { QCoreApplication::quit(); });
+        waited = wait();
+    });
+    QCoreApplication::exec();
+    EXPECT_EQ(waited, Waited::Cancelled);
+}
+
+TEST_F(ShareWaiterTest, DoesNotWaitInsideOfAWait) {
+    Waited inner = Waited::Ready;
+    QTimer::singleShot(0, &m_waiter, [&] {
+        inner = wait();
+        answer();
+    });
+    EXPECT_EQ(wait(), Waited::Ready);
+    EXPECT_EQ(inner, Waited::Cancelled);
+}
+
+TEST_F(ShareWaiterTest, RunsWorkAtOnceWhenNobodyWaits) {
+    bool isDone = false;
+    m_waiter.afterWaiting([&] { isDone = true; });
+    EXPECT_TRUE(isDone);
+}
+
+TEST_F(ShareWaiterTest, RunsWorkThatCameMeanwhileInItsOrderAfterwards) {
+    std::vector<int> order;
+    QTimer::singleShot(0, &m_waiter, [&] {
+        for (const int number : {1, 2})
+            m_waiter.afterWaiting([&order, number] { order.push_back(number); });
+        answer();
+    });
+    EXPECT_EQ(wait(), Waited::Ready);
+    EXPECT_TRUE(order.empty());
+    EXPECT_TRUE(QTest::qWaitFor([&] { return order.size() == 2; }));
+    EXPECT_EQ(order, (std::vector{1, 2}));
+}
+
+TEST_F(ShareWaiterTest, DoesNotRunSuchWorkInsideOfTheNextWait) {
+    bool isDone = false;
+    QTimer::singleShot(0, &m_waiter, [&] {
+        m_waiter.afterWaiting([&] { isDone = true; });
+        answer();
+    });
+    EXPECT_EQ(wait(), Waited::Ready);
+    m_here.receive();
+    EXPECT_EQ(wait(100ms), Waited::TimeOver); // longer than it sleeps: events run
+    EXPECT_FALSE(isDone);
+    EXPECT_TRUE(QTest::qWaitFor([&] { return isDone; }));
+}
+
+TEST_F(ShareWaiterTest, DropsSuchWorkAtTheEndOfTheProgram) {
+    bool isDone = false;
+    QTimer::singleShot(0, &m_waiter, [&] {
+        m_waiter.afterWaiting([&] { isDone = true; });
+        m_waiter.endWaits();
+    });
+    EXPECT_EQ(wait(), Waited::Cancelled);
+    QCoreApplication::processEvents();
+    EXPECT_FALSE(isDone);
+}
+
+} // namespace
+} // namespace app

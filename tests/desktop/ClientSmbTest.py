@@ -1,0 +1,112 @@
+# SPDX-FileCopyrightText: 2026 The qmClient authors
+# SPDX-License-Identifier: GPL-3.0-or-later
+"""The real client against a server that it reaches by SMB alone: restarts, hangs, the end."""
+import contextlib
+import os
+import signal
+import sys
+import unittest
+
+sys.dont_write_bytecode = True
+from client import Client  # noqa: E402
+from desktop import wait_until  # noqa: E402
+from samba import Samba  # noqa: E402
+from scene import FIRST, SECOND, SceneTest  # noqa: E402
+
+
+def helpers():
+    """The processes called qmshare that belong to this test's clients."""
+    found = []
+    for name in filter(str.isdigit, os.listdir('/proc')):
+        with contextlib.suppress(OSError):
+            with open(f'/proc/{name}/comm', encoding='ascii') as comm:
+                if comm.read() == 'qmshare\n':
+                    found.append(int(name))
+    return found
+
+
+class SmbTest(SceneTest):
+    def setUp(self):
+        super().setUp()
+        self.samba = Samba(self.desktop, self.share)
+        self.addCleanup(self.samba.go_on)  # a stopped process does not end
+
+    def write_settings(self, numbers, **settings):
+        super().write_settings(numbers, share=self.samba.address, **settings)
+
+    def helper_of(self, client):
+        def ours():
+            return [pid for pid in helpers() if parent(pid) == client.process.pid]
+        return wait_until(ours, 'a qmshare process')
+
+    def test_lists_and_announces_calls(self):
+        client = self.start({FIRST: 12, SECOND: 3})
+        self.add_calls(FIRST, 3)
+        client.wait_popup(3)
+        self.add_calls(SECOND, 2)
+        client.wait_popup(5)
+        self.assertEqual(len(self.helper_of(client)), 1)
+
+    def test_counts_on_after_the_server_was_restarted(self):
+        client = self.start({FIRST: 12})
+        self.samba.kill()
+        self.add_calls(FIRST, 3)
+        self.samba.start()
+        client.wait_popup(3, seconds=60)
+        client.wait_rows(15)
+
+    def test_the_window_lives_while_the_server_hangs_and_counts_afterwards(self):
+        client = self.start({FIRST: 12})
+        self.samba.stop()
+        client.open()
+        self.assertEqual(client.row_count(), 12)
+        client.hide()
+        self.add_calls(FIRST, 3)
+        self.samba.go_on()
+        client.wait_popup(3, seconds=60)
+
+    def test_ends_while_the_server_hangs(self):
+        client = self.start({FIRST: 12})
+        self.samba.stop()
+        client.process.popen.send_signal(signal.SIGTERM)
+        client.process.wait(20)
+        self.assertEqual(client.process.popen.returncode, 0)
+
+    def test_leaves_no_process_behind_when_it_is_killed(self):
+        client = self.start({FIRST: 12})
+        left = self.helper_of(client)
+        client.process.popen.kill()
+        client.process.wait(10)
+        wait_until(lambda: not any(map(runs, left)), 'qmshare to end')
+
+    def test_starts_without_the_server_and_finds_it_later(self):
+        self.make_mailbox(FIRST, 12)
+        self.write_settings((FIRST,))
+        self.samba.kill()
+        client = Client(self.desktop)
+        client.open()
+        client.wait_line('A connection to the server could not be established.', seconds=30)
+        self.samba.start()
+        client.wait_rows(12, seconds=90)
+
+
+def status_of(pid, name):
+    with contextlib.suppress(OSError):
+        with open(f'/proc/{pid}/status', encoding='ascii', errors='replace') as lines:
+            for line in lines:
+                if line.startswith(name + ':'):
+                    return line.split(':')[1].split()[0]
+    return None
+
+
+def parent(pid):
+    number = status_of(pid, 'PPid')
+    return int(number) if number else None
+
+
+def runs(pid):
+    return status_of(pid, 'State') not in (None, 'Z')
+
+
+if __name__ == '__main__':
+    unittest.main(verbosity=2)
