@@ -25,6 +25,8 @@ public:
     explicit Database(std::unique_ptr<share::File> file);
 
     const DatabaseHeader& header() const noexcept { return m_header; }
+    // As they were when the file was opened.
+    const CommitWords& commitWords() const noexcept { return m_header.commitWords; }
     PageReader& pages() noexcept { return m_pages; }
     share::File& file() noexcept { return *m_file; }
 

@@ -11,8 +11,8 @@
 namespace jet {
 namespace {
 
-constexpr std::size_t kMaximumHints = 512; // mailboxes polled by one client stay far below
-constexpr std::chrono::milliseconds kShortestPause{3};
+constexpr std::size_t kMaximumHints = 512;              // mailboxes polled by one client stay far below
+constexpr std::chrono::milliseconds kShortestPause{10}; // all of them together stay unnoticed
 
 } // namespace
 

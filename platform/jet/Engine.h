@@ -14,9 +14,9 @@
 #include "platform/share/FileSystemObject.h"
 
 #include <map>
-#include <optional>
 #include <string>
 #include <string_view>
+#include <utility>
 
 namespace jet {
 
@@ -49,10 +49,6 @@ public:
     static void sleepBriefly(int attempt);
 
 private:
-    template <typename Read>
-    static auto tryOnce(Database& database, Read& read, bool isLast)
-        -> std::optional<decltype(read(database))>;
-
     share::FileSystemObject& m_files;
     ReadPause m_pause;
     SharingWait m_sharing;
@@ -62,34 +58,8 @@ private:
 
 template <typename Read>
 auto Engine::readDatabase(std::string_view path, Read&& read) {
-    for (int attempt = 1;; ++attempt) {
-        {
-            Database database(m_files.openFile(path, share::OpenMode::Read));
-            const bool isLast = attempt == kMaxReadTries;
-            if (auto result = tryOnce(database, read, isLast))
-                return std::move(*result);
-            if (isLast)
-                failBusy(database.file());
-        }
-        m_pause(attempt);
-    }
-}
-
-// Nothing when what was read may be torn.
-template <typename Read>
-auto Engine::tryOnce(Database& database, Read& read, bool isLast) -> std::optional<decltype(read(database))> {
-    const ReadGuard guard(database.file(), database.header().commitWords);
-    if (guard.isBlocked())
-        return std::nullopt;
-    try {
-        auto result = read(database);
-        if (guard.holds())
-            return result;
-    } catch (const basic::RuntimeError& error) {
-        if (isLast || (error.number() != basic::kProviderFailure && guard.holds()))
-            throw;
-    }
-    return std::nullopt;
+    const auto open = [&] { return Database(m_files.openFile(path, share::OpenMode::Read)); };
+    return readConsistently(m_pause, open, std::forward<Read>(read));
 }
 
 } // namespace jet

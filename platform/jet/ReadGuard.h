@@ -10,13 +10,14 @@
 #include "platform/share/File.h"
 
 #include <functional>
+#include <optional>
+#include <utility>
 
 namespace jet {
 
 class ReadGuard {
 public:
-    explicit ReadGuard(share::File& file) : ReadGuard(file, CommitWords::read(file)) {}
-    // With words that were read already, such as the header's.
+    // With the words as they were read with the header.
     ReadGuard(share::File& file, const CommitWords& before) : m_file(file), m_before(before) {}
 
     // Somebody is in the middle of writing: reading makes no sense now.
@@ -36,26 +37,39 @@ using ReadPause = std::function<void(int attempt)>;
 
 [[noreturn]] void failBusy(const share::File& file);
 
-// Calls `read` until it ran through while nobody wrote, and answers its result. Damage that it reports may
-// be a half-written page, so it is tried again as well and believed only at the last try. Any other error is
-// believed as soon as nobody wrote meanwhile.
+// One reading under the guard; nothing when what was read may be torn. Damage that `read` reports may be a
+// half-written page, so it is believed only at the last try; any other error as soon as nobody wrote
+// meanwhile.
 template <typename Read>
-auto readConsistently(share::File& file, const ReadPause& pause, Read&& read) {
+auto readOnce(const ReadGuard& guard, bool isLast, Read&& read) -> std::optional<decltype(read())> {
+    if (guard.isBlocked())
+        return std::nullopt;
+    try {
+        auto result = read();
+        if (guard.holds())
+            return result;
+    } catch (const basic::RuntimeError& error) {
+        if (isLast || (error.number() != basic::kProviderFailure && guard.holds()))
+            throw;
+    }
+    return std::nullopt;
+}
+
+// Opens and reads until a reading ran through while nobody wrote, and answers its result. What `open` gives
+// is handed to `read` and has file() and commitWords(), as they were when it was opened; it is gone before
+// each pause, so that nothing stays open meanwhile.
+template <typename Open, typename Read>
+auto readConsistently(const ReadPause& pause, Open&& open, Read&& read) {
     for (int attempt = 1;; ++attempt) {
-        const bool isLast = attempt == kMaxReadTries;
-        const ReadGuard guard(file);
-        if (!guard.isBlocked()) {
-            try {
-                auto result = read();
-                if (guard.holds())
-                    return result;
-            } catch (const basic::RuntimeError& error) {
-                if (isLast || (error.number() != basic::kProviderFailure && guard.holds()))
-                    throw;
-            }
+        {
+            auto opened = open();
+            const bool isLast = attempt == kMaxReadTries;
+            const ReadGuard guard(opened.file(), opened.commitWords());
+            if (auto result = readOnce(guard, isLast, [&] { return read(opened); }))
+                return std::move(*result);
+            if (isLast)
+                failBusy(opened.file());
         }
-        if (isLast)
-            failBusy(file);
         pause(attempt);
     }
 }

@@ -13,6 +13,17 @@ namespace {
 
 using testing::HasSubstr;
 
+class Opened {
+public:
+    explicit Opened(share::File& file) : m_file(file), m_words(CommitWords::read(file)) {}
+    share::File& file() const { return m_file; }
+    const CommitWords& commitWords() const { return m_words; }
+
+private:
+    share::File& m_file;
+    CommitWords m_words;
+};
+
 class ReadConsistently : public testing::Test {
 protected:
     void setWord(std::size_t index, unsigned value) {
@@ -21,8 +32,12 @@ protected:
     }
     template <typename Read>
     int run(Read read) {
+        return run(read, [this](int attempt) { pauses.push_back(attempt); });
+    }
+    template <typename Read>
+    int run(Read read, const ReadPause& pause) {
         return readConsistently(
-            file, [this](int attempt) { pauses.push_back(attempt); }, read);
+            pause, [this] { return Opened(file); }, [&](const Opened&) { return read(); });
     }
 
     test::Image image = test::smallDatabase();
@@ -53,8 +68,7 @@ TEST_F(ReadConsistently, ResultIsDroppedWhenAnyWordMovedMeanwhile) {
 
 TEST_F(ReadConsistently, WaitsWhileSomebodyWrites) {
     setWord(4, 0);
-    const int result = readConsistently(
-        file, [this](int) { setWord(4, 0x0105); }, [this] { return ++calls; });
+    const int result = run([this] { return ++calls; }, [this](int) { setWord(4, 0x0105); });
     EXPECT_EQ(result, 1);
 }
 
