@@ -21,9 +21,9 @@ public:
 
     // Plays from the current position on. A graph without a connection plays nothing and ends never.
     virtual void Run() = 0;
-    // Silence; the position stays, and Run() goes on with the very next sample.
+    // Silence; the position stays, and Run() goes on there. The output device is let go, as it is by Stop().
     virtual void Pause() = 0;
-    // Silence; the position stays. The output device is let go.
+    // Silence; the position stays.
     virtual void Stop() = 0;
 
     // The filters now in the graph, in the order in which they were put in.

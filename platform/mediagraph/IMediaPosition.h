@@ -3,8 +3,8 @@
 #pragma once
 // Where a filter graph is in its file, in seconds from the beginning. User-interface thread; no call waits
 // for the sound server. A graph that failed tells so once, by an error of the next read of CurrentPosition()
-// or Duration() (kMediaNoHardware without a sound server, kMediaTimeout when the sound did not start within
-// five seconds); reads after that answer the last known values.
+// (kMediaNoHardware without a sound server, kMediaTimeout when the sound did not start within five seconds);
+// reads after that answer the last known position.
 
 namespace mediagraph {
 

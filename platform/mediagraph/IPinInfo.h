@@ -22,9 +22,10 @@ public:
     virtual PinDirection Direction() const = 0;
     // Connects this pin with `other` and puts in what the connection needs: the source's file is decoded
     // here. Error kMediaCannotConnect unless both are of one graph, one the output of a file source that
-    // holds a file, the other a renderer's input, and neither connected yet. kMediaBadFormat for what is no
-    // sound file or holds no sample, kMediaUnsupported for a codec that nobody here decodes; the description
-    // names the file and what was found in it.
+    // holds a file, the other a renderer's input, and nothing in the graph connected yet; kMediaWrongState
+    // unless the graph is stopped. kMediaBadFormat for what is no sound file or holds no sample,
+    // kMediaUnsupported for a codec that nobody here decodes; the description names the file and what was
+    // found in it.
     virtual void Connect(IPinInfo& other) = 0;
 };
 

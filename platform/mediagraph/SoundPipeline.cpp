@@ -1,0 +1,104 @@
+// SPDX-FileCopyrightText: 2026 The qmClient authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "platform/mediagraph/SoundPipeline.h"
+
+#include "platform/basic/RuntimeError.h"
+
+#include <cmath>
+#include <string>
+
+namespace mediagraph {
+namespace {
+
+GstElement* newElement(const std::string& kind) {
+    GstElement* element = gst_element_factory_make(kind.c_str(), nullptr);
+    if (element == nullptr)
+        throw basic::RuntimeError(basic::kMediaNoHardware, "GStreamer has no element " + kind + ".");
+    return element;
+}
+
+bool hasProperty(GstElement* element, const char* name) {
+    return g_object_class_find_property(G_OBJECT_GET_CLASS(element), name) != nullptr;
+}
+
+GstElement* newSink(const OutputDevice& device) {
+    GstElement* sink = newElement(device.element);
+    const char* property = hasProperty(sink, "device") ? "device" : "target-object";
+    if (!device.address.empty())
+        g_object_set(sink, property, device.address.c_str(), nullptr);
+    return sink;
+}
+
+// Messages stay on the bus for the playing thread; this only wakes it.
+GstBusSyncReply wake(GstBus*, GstMessage*, gpointer user) {
+    (*static_cast<std::function<void()>*>(user))();
+    return GST_BUS_PASS;
+}
+
+void noteMove(GstElement*, GParamSpec*, gpointer user) {
+    *static_cast<std::atomic<bool>*>(user) = true;
+}
+
+} // namespace
+
+SoundPipeline::SoundPipeline(std::shared_ptr<const Samples> samples, double fromSeconds,
+                             const OutputDevice& device, std::function<void()> messageCame)
+    : m_from(fromSeconds), m_rate(samples->rate),
+      m_next(std::make_shared<std::atomic<std::size_t>>(std::lround(fromSeconds * samples->rate))),
+      m_messageCame(std::move(messageCame)),
+      m_pipeline(GST_ELEMENT(gst_object_ref_sink(gst_pipeline_new(nullptr)))), m_sink(add(newSink(device))) {
+    GstElement* source = add(newSampleSource(std::move(samples), m_next));
+    GstElement* convert = add(newElement("audioconvert"));
+    GstElement* resample = add(newElement("audioresample"));
+    gst_element_link_many(source, convert, resample, m_sink, nullptr);
+    m_bus.reset(gst_pipeline_get_bus(GST_PIPELINE(m_pipeline.get())));
+    gst_bus_set_sync_handler(m_bus.get(), wake, &m_messageCame, nullptr);
+    if (hasProperty(m_sink, "current-device"))
+        g_signal_connect(m_sink, "notify::current-device", G_CALLBACK(noteMove), &m_mayHaveMoved);
+}
+
+GstElement* SoundPipeline::add(GstElement* element) {
+    gst_bin_add(GST_BIN(m_pipeline.get()), element);
+    return element;
+}
+
+SoundPipeline::~SoundPipeline() {
+    gst_element_set_state(m_pipeline.get(), GST_STATE_NULL);
+    g_signal_handlers_disconnect_by_data(m_sink, &m_mayHaveMoved);
+    gst_bus_set_sync_handler(m_bus.get(), nullptr, nullptr, nullptr);
+    gst_bus_set_flushing(m_bus.get(), TRUE);
+}
+
+void SoundPipeline::start() {
+    gst_element_set_state(m_pipeline.get(), GST_STATE_PLAYING);
+}
+
+bool SoundPipeline::isPlaying() {
+    return gst_element_get_state(m_pipeline.get(), nullptr, nullptr, 0) == GST_STATE_CHANGE_SUCCESS;
+}
+
+std::optional<double> SoundPipeline::position() {
+    gint64 time = 0;
+    if (!gst_element_query_position(m_pipeline.get(), GST_FORMAT_TIME, &time))
+        return std::nullopt;
+    return m_from + static_cast<double>(time) / static_cast<double>(GST_SECOND);
+}
+
+double SoundPipeline::handedOut() const {
+    return static_cast<double>(*m_next) / m_rate;
+}
+
+GstRef<GstMessage> SoundPipeline::message() {
+    return GstRef<GstMessage>(gst_bus_pop(m_bus.get()));
+}
+
+std::string SoundPipeline::currentDevice() const {
+    if (!hasProperty(m_sink, "current-device"))
+        return {};
+    gchar* name = nullptr;
+    g_object_get(m_sink, "current-device", &name, nullptr);
+    const GstRef<gchar> owned(name);
+    return name == nullptr ? std::string() : std::string(name);
+}
+
+} // namespace mediagraph

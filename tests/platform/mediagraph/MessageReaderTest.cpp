@@ -1,0 +1,177 @@
+// SPDX-FileCopyrightText: 2026 The qmClient authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "platform/mediagraph/MessageReader.h"
+
+#include "platform/share/LocalFileSystemObject.h"
+#include "tests/platform/mediagraph/ErrorOf.h"
+#include "tests/platform/share/FaultyFileSystem.h"
+#include "tests/platform/share/TemporaryFolder.h"
+
+#include <gtest/gtest.h>
+
+#include <condition_variable>
+#include <mutex>
+#include <thread>
+
+namespace mediagraph::testing {
+namespace {
+
+using std::chrono::milliseconds;
+
+constexpr WaitLimits kPatient{std::chrono::seconds{20}, std::chrono::seconds{20}};
+constexpr const char* kMessage = R"(\\srv\Quillamar_0$\message.wav)";
+
+class CountingWait final : public Waiting {
+public:
+    int passes = 0;
+    void pass(milliseconds time) override {
+        ++passes;
+        std::this_thread::sleep_for(time);
+    }
+};
+
+// A share of this machine's folder; what is done to it happens through the plan.
+struct ReadingWorld {
+    share::testing::TemporaryFolder folder;
+    share::testing::FaultPlan plan;
+    CountingWait waiting;
+    share::LocalFileSystemObject files{share::ShareResolver(
+        [this](std::string_view) { return folder.path(); }, [] { return std::string(); })};
+
+    MessageReader reader(WaitLimits limits = kPatient) {
+        return {[this] { return std::make_unique<share::testing::FaultyFileSystem>(files, plan); }, waiting,
+                limits};
+    }
+};
+
+TEST(MessageReader, ReadsAWholeFileAndHasItClosedBeforeItReturns) {
+    ReadingWorld world;
+    const std::string content(200'000, 'w');
+    world.folder.makeFile("message.wav", content);
+    const auto bytes = world.reader().read(kMessage);
+    EXPECT_EQ(bytes, std::vector<std::byte>(content.size(), std::byte{'w'}));
+    EXPECT_EQ(world.plan.openFiles, 0);
+}
+
+TEST(MessageReader, EndsInAnErrorAtEveryCallThatFails) {
+    ReadingWorld world;
+    world.folder.makeFile("message.wav", std::string(200'000, 'w'));
+    world.reader().read(kMessage);
+    const int calls = world.plan.calls;
+    ASSERT_GT(calls, 4);
+    for (int call = 1; call <= calls; ++call) {
+        world.plan = {.failAt = call};
+        EXPECT_EQ(errorOf([&] { world.reader().read(kMessage); }), basic::kDeviceIoError) << call;
+        EXPECT_EQ(world.plan.openFiles, 0);
+    }
+}
+
+TEST(MessageReader, TakesWhatIsThereOfAFileThatBecameShorter) {
+    ReadingWorld world;
+    world.folder.makeFile("message.wav", std::string(1000, 'w'));
+    world.plan.shortReadAt = 3; // open, size, read
+    EXPECT_EQ(world.reader().read(kMessage).size(), 1000U);
+    EXPECT_EQ(world.plan.reads, 2);
+}
+
+TEST(MessageReader, NamesAFileThatIsNotThere) {
+    ReadingWorld world;
+    EXPECT_EQ(errorOf([&] { world.reader().read(kMessage); }), basic::kFileNotFound);
+}
+
+// A file whose reading waits for a gate that the test opens.
+struct Gate {
+    std::mutex mutex;
+    std::condition_variable changed;
+    bool isOpen = false;
+    int left = 0;
+
+    void open() {
+        const std::lock_guard lock(mutex);
+        isOpen = true;
+        changed.notify_all();
+    }
+    void pass() {
+        std::unique_lock lock(mutex);
+        changed.wait(lock, [this] { return isOpen; });
+    }
+    void leave() {
+        const std::lock_guard lock(mutex);
+        ++left;
+        changed.notify_all();
+    }
+    void awaitLeaving() {
+        std::unique_lock lock(mutex);
+        changed.wait(lock, [this] { return left > 0; });
+    }
+};
+
+class GatedFile final : public share::File {
+public:
+    explicit GatedFile(std::shared_ptr<Gate> gate) : m_gate(std::move(gate)) {}
+    ~GatedFile() override { m_gate->leave(); }
+    const std::string& name() const override { return m_name; }
+    std::uint64_t size() override { return 4; }
+    std::size_t read(std::uint64_t, std::span<std::byte> into) override {
+        m_gate->pass();
+        return into.size();
+    }
+    void write(std::uint64_t, std::span<const std::byte>) override {}
+    void sync() override {}
+    bool lock(std::uint64_t, std::uint64_t, share::LockKind) override { return true; }
+    void unlock(std::uint64_t, std::uint64_t) override {}
+
+private:
+    std::shared_ptr<Gate> m_gate;
+    std::string m_name = "gated";
+};
+
+class GatedFiles final : public share::FileSystemObject {
+public:
+    explicit GatedFiles(std::shared_ptr<Gate> gate) : m_gate(std::move(gate)) {}
+    bool FileExists(std::string_view) override { return true; }
+    bool FolderExists(std::string_view) override { return true; }
+    std::vector<std::string> SubFolders(std::string_view) override { return {}; }
+    void DeleteFile(std::string_view, bool) override {}
+    std::unique_ptr<share::File> openFile(std::string_view, share::OpenMode) override {
+        return std::make_unique<GatedFile>(m_gate);
+    }
+
+private:
+    std::shared_ptr<Gate> m_gate;
+};
+
+MessageReader gatedReader(const std::shared_ptr<Gate>& gate, Waiting& waiting, WaitLimits limits) {
+    return {[gate] { return std::make_unique<GatedFiles>(gate); }, waiting, limits};
+}
+
+TEST(MessageReader, GivesUpOnAServerThatStopsAnswering) {
+    const auto gate = std::make_shared<Gate>();
+    CountingWait waiting;
+    auto reader = gatedReader(gate, waiting, {milliseconds{50}, std::chrono::seconds{20}});
+    EXPECT_EQ(errorTextOf([&] { reader.read("m.wav"); }),
+              "m.wav: the server does not answer. The message could not be read.");
+    EXPECT_GT(waiting.passes, 0);
+    gate->open();
+    gate->awaitLeaving(); // the thread that was left behind closes its file
+}
+
+// Lets the window live: the gate opens only because waiting does something meanwhile.
+class OpeningWait final : public Waiting {
+public:
+    explicit OpeningWait(std::shared_ptr<Gate> gate) : m_gate(std::move(gate)) {}
+    void pass(milliseconds) override { m_gate->open(); }
+
+private:
+    std::shared_ptr<Gate> m_gate;
+};
+
+TEST(MessageReader, LetsTheCallerLiveOnWhileItReads) {
+    const auto gate = std::make_shared<Gate>();
+    OpeningWait waiting(gate);
+    auto reader = gatedReader(gate, waiting, kPatient);
+    EXPECT_EQ(reader.read("m.wav").size(), 4U);
+}
+
+} // namespace
+} // namespace mediagraph::testing

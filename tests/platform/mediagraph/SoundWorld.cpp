@@ -1,0 +1,73 @@
+// SPDX-FileCopyrightText: 2026 The qmClient authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "tests/platform/mediagraph/SoundWorld.h"
+
+#include "platform/mediagraph/MessageDecoder.h"
+#include "platform/share/LocalFileSystemObject.h"
+#include "tests/platform/mediagraph/WaitUntil.h"
+
+#include <gtest/gtest.h>
+
+namespace mediagraph::testing {
+namespace {
+
+SoundSystem::NewFiles filesBelow(const std::string& folder) {
+    return [folder] {
+        return std::make_unique<share::LocalFileSystemObject>(share::ShareResolver(
+            [folder](std::string_view) { return folder; }, [] { return std::string(); }));
+    };
+}
+
+} // namespace
+
+SoundWorld::SoundWorld(SoundServer::Begin begin)
+    : server(begin), m_sound(std::make_unique<SoundSystem>(filesBelow(m_share.path()), m_waiting)) {}
+
+std::string SoundWorld::makeMessage(double seconds, const SoundKind& kind) const {
+    makeSoundFile(pathOf(kind.name + ".wav"), kind, seconds);
+    return kind.name + ".wav";
+}
+
+Samples SoundWorld::decoded(const std::string& file) const {
+    return decodeMessage(bytesOf(pathOf(file)), file);
+}
+
+std::shared_ptr<IRegFilterInfo> registered(FilgraphManager& graph, const std::string& name) {
+    const auto filters = graph.RegFilterCollection();
+    for (const auto& filter : *filters)
+        if (filter->Name() == name)
+            return filter;
+    ADD_FAILURE() << "no filter " << name;
+    return nullptr;
+}
+
+void SoundWorld::connect(FilgraphManager& graph, const std::string& file, const std::string& device) {
+    const auto source = registered(graph, kFileSourceName)->Filter();
+    source->SetFilename(nameOf(file));
+    const auto renderer = registered(graph, device)->Filter();
+    source->Pins().Item(0)->Connect(*renderer->Pins().Item(0));
+}
+
+Graph SoundWorld::connected(const std::string& file, const std::string& device) {
+    auto graph = m_sound->graphs().newFilgraphManager();
+    connect(*graph, file, device);
+    return graph;
+}
+
+std::optional<EventCode> endOf(FilgraphManager& graph, std::chrono::seconds limit) {
+    std::optional<EventCode> code;
+    waitUntil(
+        [&] {
+            const auto number =
+                errorOf([&] { code = graph.WaitForCompletion(std::chrono::milliseconds{10}); });
+            return number != basic::kMediaStillRunning;
+        },
+        limit);
+    return code;
+}
+
+bool comesTo(FilgraphManager& graph, double seconds) {
+    return waitUntil([&] { return graph.CurrentPosition() >= seconds; });
+}
+
+} // namespace mediagraph::testing
