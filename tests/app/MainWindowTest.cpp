@@ -2,17 +2,12 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "tests/app/MainWorld.h"
 
-#include <QApplication>
-#include <QClipboard>
-#include <QMenu>
-
 namespace app {
 namespace {
 
 class MainWindowTest : public MainWorld {
 protected:
-    forms::TabCollection& tabs() { return window->findChild<forms::TabStrip*>()->Tabs(); }
-    forms::ListView& list() { return *window->findChild<forms::ListView*>(); }
+    forms::TabCollection& tabs() { return tabStrip().Tabs(); }
 };
 
 TEST_F(MainWindowTest, NoServerNameShowsThatThereIsNoConnection) {
@@ -77,18 +72,6 @@ TEST_F(MainWindowTest, IntervalBeyondThirtyTwoBitsIsReportedAndStartUpGoesOn) {
     EXPECT_EQ(column(0).size(), 1U);
 }
 
-TEST_F(MainWindowTest, TrayCloseAsksForTheExitTickAfterTwoHundredMilliseconds) {
-    configure({12});
-    load();
-    QAction* close = notificationArea.menu->actions().last();
-    EXPECT_EQ(close->text(), QStringLiteral("Close Quillamar Client"));
-    close->trigger();
-    EXPECT_TRUE(window->state().exitRequested);
-    EXPECT_EQ(window->timer().Interval(), 200);
-    EXPECT_TRUE(window->timer().Enabled());
-    EXPECT_NE(window->state().config, nullptr); // nothing is unloaded from inside the menu's handler
-}
-
 TEST_F(MainWindowTest, UnloadRemovesTheIconAndReleasesTheConfiguration) {
     configure({12});
     mailbox(12).append(1);
@@ -149,21 +132,6 @@ TEST_F(MainWindowTest, CallIDThatStandsTwiceIsReportedAndItsRowSkippedWhole) {
     EXPECT_EQ(column(3), (std::vector<std::string>{"third", "second"}));
 }
 
-TEST_F(MainWindowTest, CopyGivesHeaderEmptyLineAndTheSelectedRows) {
-    configure({12});
-    mailbox(12).append({"A1", "tab\tin name", 3});
-    mailbox(12).append({"A2", "left out", 4});
-    mailbox(12).append({"A3", "last", 0});
-    load();
-    list().ListItems().Item(1).SetSelected(true);
-    list().ListItems().Item(3).SetSelected(true);
-    window->ab_ToolClick("miECopy");
-    EXPECT_EQ(QApplication::clipboard()->text().toStdString(),
-              "\tDate\tCaller ID\tCaller Name\tMessage\t\r\n\r\n"
-              "\t2023-03-15 12:00:00\t+4930123456\tlast\t0s\t\r\n"
-              "\t2023-03-15 12:00:00\t+4930123456\ttab in name\t3s\t\r\n");
-}
-
 TEST_F(MainWindowTest, SelectedCallIsTold) {
     configure({12});
     mailbox(12).append(2);
@@ -198,14 +166,6 @@ TEST_F(MainWindowTest, EmptyStoreShowsThatNoMailboxesAreConfigured) {
     EXPECT_EQ(onlyLine(), "There are currently no mailboxes configured.");
     EXPECT_TRUE(list().HideColumnHeaders());
     EXPECT_EQ(tabs().Count(), 0);
-}
-
-TEST_F(MainWindowTest, UnknownToolNameDoesNothing) {
-    configure({});
-    load();
-    for (const char* name : {"miEFind", "miEFindNext", "nothing", "mifhide"})
-        window->ab_ToolClick(name);
-    EXPECT_TRUE(errorHandler.reports.empty());
 }
 
 TEST_F(MainWindowTest, FirstColumnKeepsItsWidthForBothFormsOfTheNotification) {

@@ -32,11 +32,16 @@ public:
         messages.push_back(message);
         return true;
     }
-    void setMenu(shell::WindowHandle, QMenu* shownMenu) override { menu = shownMenu; }
-    void trackPopupMenu(shell::WindowHandle) override {}
+    void setMenu(shell::WindowHandle owner, QMenu* shownMenu) override {
+        window = owner;
+        menu = shownMenu;
+    }
+    void trackPopupMenu(shell::WindowHandle) override { ++tracked; }
 
     std::vector<std::uint32_t> messages; // NIM_ADD 0, NIM_MODIFY 1, NIM_DELETE 2, NIM_SETVERSION 4
     QMenu* menu = nullptr;
+    shell::WindowHandle window = 0; // the icon's
+    int tracked = 0;                // times the menu was shown
 };
 
 class BareDesktop final : public shell::DesktopWindows {
@@ -58,11 +63,16 @@ protected:
     void removeShare() const;
     void load();
 
+    forms::TabStrip& tabStrip() { return *window->findChild<forms::TabStrip*>(); }
+    forms::ListView& list() { return *window->findChild<forms::ListView*>(); }
     std::vector<std::string> column(int index);
     std::string onlyLine();
     tray::frmAlert* popup();
     std::string popupText();
     void clickPopup(const char* label);
+    std::string settingsFile() const {
+        return registry::RegistryFolder::content(folder.path("registry.reg"));
+    }
     void tick() { window->mTimer_ThatTime(); }
     // Only srv01 has a share.
     std::optional<std::string> shareOf(std::string_view server) const {
