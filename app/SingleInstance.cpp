@@ -10,6 +10,14 @@ namespace {
 
 const QString kService = QStringLiteral("example.corvantis.qmClient");
 const QString kPath = QStringLiteral("/example/corvantis/qmClient");
+constexpr int kPatienceMs = 3000;
+
+// Whether the name's owner is there and says that it has shown itself.
+bool runningOneAnswers(const QDBusConnection& bus) {
+    const auto activate =
+        QDBusMessage::createMethodCall(kService, kPath, kService, QStringLiteral("Activate"));
+    return bus.call(activate, QDBus::Block, kPatienceMs).type() == QDBusMessage::ReplyMessage;
+}
 
 } // namespace
 
@@ -20,8 +28,11 @@ bool SingleInstance::claim() {
     bus.registerObject(kPath, this, QDBusConnection::ExportScriptableSlots);
     if (bus.registerService(kService))
         return true;
-    bus.call(QDBusMessage::createMethodCall(kService, kPath, kService, QStringLiteral("Activate")));
-    return false;
+    if (runningOneAnswers(bus))
+        return false;
+    // It went away meanwhile, or hangs. A user who starts the program shall get one.
+    bus.registerService(kService);
+    return true;
 }
 
 } // namespace app

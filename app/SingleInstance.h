@@ -2,7 +2,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 // One running program per user, over the session bus: the first one owns the well-known name, a later one
-// asks it to show itself and ends. Without a bus every start is the first one. User-interface thread.
+// asks it to show itself and ends. Where there is no bus, or an owner that does not answer within seconds, a
+// start counts as the first one. User-interface thread.
 
 #include <QObject>
 
