@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "app/Program.h"
 #include "app/SingleInstance.h"
+#include "platform/forms/ToolkitTexts.h"
 #include "platform/forms/UserLocale.h"
 #include "resources/Icons.h"
 #include "resources/ProductData.h"
@@ -30,6 +31,8 @@ int main(int argc, char* argv[]) {
     QApplication::setQuitOnLastWindowClosed(false);
     QApplication::setWindowIcon(resources::programIcon());
     resources::setLanguage(resources::languageOf(forms::userLanguageName()));
+    const forms::ToolkitTexts toolkitTexts(
+        resources::language() == resources::Language::German ? QStringLiteral("de") : QString());
 
     app::SingleInstance instance;
     if (!instance.claim())
