@@ -8,6 +8,8 @@ import subprocess
 import sys
 import time
 
+import audio
+
 FEW, MANY, CALLS = 10, 1_000_000, 100_000
 ROUNDS = 5
 
@@ -102,6 +104,8 @@ def main():
     summary.add_alone(f'emptying {CALLS} calls: bytes written', emptied['bytes'], 'ours <= 65536 + the map')
     summary.add_alone(f'emptying {CALLS} calls: write calls', emptied['calls'], '-')
     summary.add_alone(f'emptying {CALLS} calls: time in ms', emptied['real_time'], '-', '{:.1f}')
+    for row in audio.measure(programs, folder):
+        summary.add(*row)
     summary.write(folder / 'summary.tsv')
     summary.show()
 
