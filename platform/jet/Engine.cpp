@@ -19,11 +19,23 @@ constexpr std::chrono::milliseconds kShortestPause{10}; // all of them together 
 Engine::Engine(share::FileSystemObject& files, ReadPause pause, SharingWait sharing)
     : m_files(files), m_pause(std::move(pause)), m_sharing(std::move(sharing)) {}
 
+std::unique_ptr<share::File> Engine::openForReading(std::string_view path) {
+    for (int attempt = 1;; ++attempt) {
+        try {
+            return m_files.openFile(path, share::OpenMode::Read);
+        } catch (const basic::RuntimeError& error) {
+            if (error.number() != basic::kFileAlreadyOpen || attempt == kMaxReadTries)
+                throw;
+        }
+        m_pause(attempt);
+    }
+}
+
 // The header is one read and nothing else is looked at, so there is nothing to compare the words with.
 void Engine::checkDatabase(std::string_view path) {
     for (int attempt = 1;; ++attempt) {
         {
-            const auto file = m_files.openFile(path, share::OpenMode::Read);
+            const auto file = openForReading(path);
             if (!DatabaseHeader::read(*file).commitWords.isWriting())
                 return;
             if (attempt == kMaxReadTries)

@@ -49,6 +49,9 @@ public:
     static void sleepBriefly(int attempt);
 
 private:
+    // Somebody who has the file to himself for a change is waited for, as a writer is.
+    std::unique_ptr<share::File> openForReading(std::string_view path);
+
     share::FileSystemObject& m_files;
     ReadPause m_pause;
     SharingWait m_sharing;
@@ -58,7 +61,7 @@ private:
 
 template <typename Read>
 auto Engine::readDatabase(std::string_view path, Read&& read) {
-    const auto open = [&] { return Database(m_files.openFile(path, share::OpenMode::Read)); };
+    const auto open = [&] { return Database(openForReading(path)); };
     return readConsistently(m_pause, open, std::forward<Read>(read));
 }
 

@@ -7,6 +7,7 @@
 
 #include <algorithm>
 #include <array>
+#include <utility>
 
 namespace jet {
 
@@ -78,6 +79,11 @@ std::optional<DatabaseUser> findOtherUser(share::File& file) {
         if (!isFree(file, lockFile::kUserLocks + user))
             return readEntry(file, user);
     return std::nullopt;
+}
+
+std::optional<DatabaseUser> readFirstEntry(share::File& file) {
+    DatabaseUser user = readEntry(file, 1);
+    return user.computer.empty() ? std::nullopt : std::optional(std::move(user));
 }
 
 bool canLock(share::File& file) {

@@ -24,6 +24,9 @@ std::unique_ptr<share::File> openLockFile(share::FileSystemObject& files, std::s
 // lock. Tries each user's byte and gives it back.
 std::optional<DatabaseUser> findOtherUser(share::File& file);
 
+// The first user's entry, whether he is in or left long ago; nothing in a file without entries.
+std::optional<DatabaseUser> readFirstEntry(share::File& file);
+
 // Whether locks work at all on this file, tried on a byte that stands for nobody.
 bool canLock(share::File& file);
 

@@ -21,12 +21,24 @@ std::unique_ptr<share::File> openExclusive(share::FileSystemObject& files, const
     }
 }
 
-std::optional<DatabaseUser> whoIsIn(share::FileSystemObject& files, const std::string& path) {
+// Opens the lock file and answers what `look` finds in it; nothing when there is none that we may open.
+template <typename Look>
+std::optional<DatabaseUser> lookInto(share::FileSystemObject& files, const std::string& path,
+                                     share::OpenMode mode, Look&& look) {
     try {
-        return findOtherUser(*files.openFile(lockFilePath(path), share::OpenMode::ReadWrite));
+        return look(*files.openFile(lockFilePath(path), mode));
     } catch (const basic::RuntimeError&) {
-        return std::nullopt; // no lock file, or none that we may open
+        return std::nullopt;
     }
+}
+
+// Where locks can be tried, the one whose lock is held; elsewhere the lock file's word is all there is.
+std::string describeOther(share::FileSystemObject& files, const std::string& path) {
+    if (const auto other = lookInto(files, path, share::OpenMode::ReadWrite, findOtherUser))
+        return " by " + other->text();
+    if (const auto other = lookInto(files, path, share::OpenMode::Read, readFirstEntry))
+        return ", perhaps by " + other->text();
+    return {};
 }
 
 } // namespace
@@ -55,9 +67,8 @@ std::unique_ptr<SoleAccess> SoleAccess::tryOpen(share::FileSystemObject& files, 
 }
 
 void SoleAccess::failInUse(share::FileSystemObject& files, const std::string& path) {
-    const std::optional<DatabaseUser> other = whoIsIn(files, path);
     throw basic::RuntimeError(basic::kProviderFailure, path + ": the database is in use" +
-                                                           (other ? " by " + other->text() : std::string()) +
+                                                           describeOther(files, path) +
                                                            ", nothing was changed");
 }
 

@@ -239,7 +239,7 @@ TEST_F(DenyingServer, NeedsNoLockFile) {
 }
 
 TEST_F(DenyingServer, IsAskedAgainWhileSomebodyHasTheFileOpen) {
-    m_files.refusals = 3;
+    m_files.exclusiveRefusals = 3;
     m_remote.Execute(kDelete);
     EXPECT_EQ(m_pauses, 3);
     EXPECT_EQ(m_database.rowCount(), 0U);
@@ -248,7 +248,7 @@ TEST_F(DenyingServer, IsAskedAgainWhileSomebodyHasTheFileOpen) {
 TEST_F(DenyingServer, SomebodyInsideIsNamedAndNothingIsChanged) {
     const FileImage before = m_database.bytes();
     const OtherUser other(openLockFile(share::OpenMode::Create));
-    m_files.refusals = 1000;
+    m_files.exclusiveRefusals = 1000;
     try {
         m_remote.Execute(kDelete);
         FAIL();
@@ -257,6 +257,14 @@ TEST_F(DenyingServer, SomebodyInsideIsNamedAndNothingIsChanged) {
         EXPECT_THAT(error.description(), HasSubstr("operator on RECEPTION"));
     }
     EXPECT_EQ(m_database.bytes(), before);
+}
+
+// Another client deletes for a moment: that is no reason to miss a poll.
+TEST_F(DenyingServer, ReadingWaitsForSomebodyWhoHasTheFileAlone) {
+    m_files.readRefusals = 2;
+    EXPECT_EQ(std::get<std::int32_t>(m_remote.Execute("SELECT COUNT(*) FROM CallLog")->Field(0)), kCalls);
+    m_files.readRefusals = 1000;
+    EXPECT_ERROR(basic::kFileAlreadyOpen, m_remote.Execute("SELECT COUNT(*) FROM CallLog"));
 }
 
 TEST(LockFile, HasTheDatabasesNameWithItsOwnEnding) {

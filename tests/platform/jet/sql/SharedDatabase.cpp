@@ -34,12 +34,13 @@ private:
 
 std::unique_ptr<share::File> DenyingFileSystem::openFile(std::string_view path, share::OpenMode mode) {
     opened.emplace_back(path);
-    if (mode != share::OpenMode::Exclusive)
-        return m_behind.openFile(path, mode);
+    int& refusals = mode == share::OpenMode::Exclusive ? exclusiveRefusals : readRefusals;
     if (refusals > 0) {
         --refusals;
         throw basic::RuntimeError(basic::kFileAlreadyOpen);
     }
+    if (mode != share::OpenMode::Exclusive)
+        return m_behind.openFile(path, mode);
     return std::make_unique<DenyingFile>(m_behind.openFile(path, mode));
 }
 

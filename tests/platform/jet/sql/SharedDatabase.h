@@ -17,12 +17,13 @@
 
 namespace jet::test {
 
-// The file system of a server that can deny all sharing; it counts whom it keeps out.
+// The file system of a server that can deny all sharing.
 class DenyingFileSystem final : public share::FileSystemObject {
 public:
     explicit DenyingFileSystem(share::FileSystemObject& behind) : m_behind(behind) {}
 
-    int refusals = 0; // of the next ones to open a file exclusively
+    int exclusiveRefusals = 0; // of the next ones to open a file exclusively
+    int readRefusals = 0;      // of the next other ones
     std::vector<std::string> opened;
 
     bool FileExists(std::string_view path) override { return m_behind.FileExists(path); }

@@ -1,0 +1,50 @@
+// SPDX-FileCopyrightText: 2026 The qmClient authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+// A process that appends calls as the server does while this one deletes them, and what must hold meanwhile:
+// each delete takes the calls that are there, so what is left at any time is one run of numbers without a gap
+// that ends with the newest. A lost call would be a gap, one that came back a step backwards.
+
+#include "platform/jet/Connection.h"
+#include "tests/platform/jet/EmptyingScenario.h"
+#include "tests/platform/jet/WrittenDatabase.h"
+
+#include <gtest/gtest.h>
+#include <sys/types.h>
+
+#include <functional>
+#include <string>
+
+namespace jet::test {
+
+// Waits as long as it takes, in short steps.
+SharingWait patience();
+
+// Appends so many calls, each one with the database to itself; the exit code of a process.
+int appendCalls(share::FileSystemObject& files, const std::string& database, int rounds);
+
+class AppendingServer {
+public:
+    // Runs `work` in a process of its own; it ends with the answer as exit code.
+    explicit AppendingServer(const std::function<int()>& work);
+    // Waits for the process.
+    ~AppendingServer();
+    AppendingServer(const AppendingServer&) = delete;
+    AppendingServer& operator=(const AppendingServer&) = delete;
+
+    bool hasEnded() const;
+
+private:
+    pid_t m_child;
+    mutable bool m_hasEnded = false;
+};
+
+struct DeleteRounds {
+    int deletes = 0;
+    int looks = 0;
+    std::int32_t lastNumber = 0; // of a call appended after the server's last one
+};
+
+DeleteRounds deleteWhileAppending(Engine& engine, const std::string& database, const AppendingServer& server);
+
+} // namespace jet::test

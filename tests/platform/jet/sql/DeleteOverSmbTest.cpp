@@ -1,0 +1,104 @@
+// SPDX-FileCopyrightText: 2026 The qmClient authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "tests/platform/jet/sql/AppendingServer.h"
+#include "tests/platform/share/smb/SmbTest.h"
+
+#include <gmock/gmock.h>
+
+#include <iostream>
+
+namespace jet::test {
+namespace {
+
+using share::testing::SambaServer;
+using share::testing::SmbClient;
+using ::testing::HasSubstr;
+
+constexpr int kCalls = 30;
+constexpr int kRounds = 200;
+constexpr std::string_view kDelete = "DELETE FROM CallLog";
+
+const std::string kDatabase = share::testing::onShare("MBX\\7\\qmLog.mdb");
+
+class DeleteOverSmb : public ::testing::Test {
+protected:
+    DeleteOverSmb() { setBytes(callLogDatabase(kCalls)); }
+
+    std::string place(const char* name = "qmLog.mdb") const {
+        return m_samba.share().makeFolder("MBX/7") + "/" + name;
+    }
+    void setBytes(const FileImage& image) const {
+        std::filesystem::remove(place());
+        share::LocalFile::open(place(), share::OpenMode::Create)->write(0, image);
+    }
+    FileImage bytes() const {
+        const auto file = share::LocalFile::open(place(), share::OpenMode::Read);
+        FileImage image(file->size());
+        file->read(0, image);
+        return image;
+    }
+    std::unique_ptr<Connection> connect() {
+        auto connection = std::make_unique<Connection>(m_engine);
+        connection->Open("Provider=Microsoft.Jet.OLEDB.4.0;Data Source=" + kDatabase);
+        return connection;
+    }
+
+    SambaServer m_samba;
+    SmbClient m_client{m_samba.port()};
+    Engine m_engine{m_client.files(), Engine::sleepBriefly, {.tries = 3}};
+};
+
+TEST_F(DeleteOverSmb, EmptiesTheTable) {
+    const auto connection = connect();
+    connection->BeginTrans();
+    connection->Execute(kDelete);
+    connection->CommitTrans();
+    const auto file = share::LocalFile::open(place(), share::OpenMode::Read);
+    EXPECT_TRUE(readRows(*file, kLog).empty());
+    EXPECT_NO_THROW(checkDatabase(*file));
+    EXPECT_FALSE(std::filesystem::exists(place("qmLog.ldb")));
+    EXPECT_EQ(runTool("mdb-count '" + place() + "' CallLog"), "0\n");
+}
+
+TEST_F(DeleteOverSmb, SomebodyWhoHasTheFileOpenKeepsItWhole) {
+    const FileImage before = bytes();
+    const auto connection = connect();
+    SmbClient other(m_samba.port());
+    auto open = other.files().openFile(kDatabase, share::OpenMode::Read);
+    {
+        FileImage entry(64);
+        std::ranges::copy(std::as_bytes(std::span("RECEPTION")), entry.begin());
+        std::ranges::copy(std::as_bytes(std::span("operator")), entry.begin() + 32);
+        share::LocalFile::open(place("qmLog.ldb"), share::OpenMode::Create)->write(0, entry);
+    }
+    try {
+        connection->Execute(kDelete);
+        FAIL();
+    } catch (const basic::RuntimeError& error) {
+        EXPECT_EQ(error.number(), basic::kProviderFailure);
+        EXPECT_THAT(error.description(), HasSubstr("perhaps by operator on RECEPTION"));
+    }
+    EXPECT_EQ(bytes(), before);
+    open.reset();
+    connection->Execute(kDelete);
+    EXPECT_NE(bytes(), before);
+}
+
+// The server's program and the client, each with a connection of its own to the same smbd.
+TEST_F(DeleteOverSmb, LosesNoCallThatIsAppendedMeanwhile) {
+    setBytes(callLogDatabase(0));
+    const AppendingServer server([&] {
+        SmbClient client(m_samba.port());
+        return appendCalls(client.files(), kDatabase, kRounds);
+    });
+    Engine engine(m_client.files(), Engine::sleepBriefly, patience());
+    const DeleteRounds rounds = deleteWhileAppending(engine, kDatabase, server);
+    EXPECT_EQ(rounds.lastNumber, kRounds + 1) << "every call has had its number";
+    EXPECT_GT(rounds.deletes, 3);
+    EXPECT_NO_THROW(checkDatabase(*share::LocalFile::open(place(), share::OpenMode::Read)));
+    std::cout << kRounds << " calls appended over SMB, " << rounds.deletes << " deletes, " << rounds.looks
+              << " looks\n";
+}
+
+} // namespace
+} // namespace jet::test
