@@ -62,8 +62,18 @@ def headless(chosen):
     return 0 if complete else 1
 
 
+def client_is_running():
+    """On the user's bus: a second one would only bring that one to the front and end."""
+    asked = subprocess.run(['gdbus', 'call', '--session', '--dest', 'org.freedesktop.DBus', '--object-path',
+                            '/org/freedesktop/DBus', '--method', 'org.freedesktop.DBus.NameHasOwner',
+                            'example.corvantis.qmClient'], capture_output=True, text=True, check=False)
+    return 'true' in asked.stdout
+
+
 def with_display(chosen):
     """On the user's own screen: only the settings and the share are the demo's."""
+    if client_is_running():
+        raise DesktopError('a client is running on this desktop; end it, or try --headless')
     with temporary_folder('qm-demo-') as folder:
         share, mailboxes = make_share(folder)
         env = os.environ | {name: str(folder / name.lower()) for name in _FOLDERS}
