@@ -1,6 +1,6 @@
 # SPDX-FileCopyrightText: 2026 The qmClient authors
 # SPDX-License-Identifier: GPL-3.0-or-later
-"""The answering end of helper.py: runs a GLib main loop and calls the method that a question names."""
+"""The answering end of question_process.py: runs a GLib main loop and calls the method that a question names."""
 import json
 import sys
 

@@ -5,7 +5,7 @@ import os
 import re
 import subprocess
 
-from .helper import Helper
+from .question_process import QuestionProcess
 from .processes import MARK, DesktopError, Program, adopt_orphans, end_strays, temporary_folder, wait_until
 from .tray import Tray
 from .windows import Windows
@@ -186,7 +186,7 @@ class Desktop:
     def reader(self):
         """The accessibility reader (accessibility.py), for desktops made with accessibility=True."""
         if not self._reader:
-            self._reader = Helper('accessibility.py', self.env, self.folder, self.folder / 'logs')
+            self._reader = QuestionProcess('accessibility.py', self.env, self.folder, self.folder / 'logs')
         return self._reader
 
     def objects(self, program, role=None, name=None, showing=True):

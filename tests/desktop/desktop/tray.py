@@ -1,7 +1,7 @@
 # SPDX-FileCopyrightText: 2026 The qmClient authors
 # SPDX-License-Identifier: GPL-3.0-or-later
 """A desktop's notification area: trayer or tint2 (XEmbed), or a StatusNotifier panel of our own."""
-from .helper import Helper
+from .question_process import QuestionProcess
 from .processes import DesktopError, wait_until
 
 SELECTION = '_NET_SYSTEM_TRAY_S0'
@@ -30,7 +30,7 @@ class Tray:
         if self.kind != 'none':
             raise DesktopError(f'{self.kind} is already there')
         if kind == 'sni':
-            self.notifier = Helper('notifier_host.py', self._env, self._folder, self._folder / 'logs')
+            self.notifier = QuestionProcess('notifier_host.py', self._env, self._folder, self._folder / 'logs')
             self.notifier.ask('own_name')
             if host:
                 self.notifier.ask('set_host', there=True)

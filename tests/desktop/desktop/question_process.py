@@ -12,7 +12,7 @@ from .processes import DesktopError, Program
 PYTHON = '/usr/bin/python3'
 
 
-class Helper:
+class QuestionProcess:
     def __init__(self, script, env, folder, logs):
         path = pathlib.Path(__file__).with_name(script)
         self._program = Program([PYTHON, '-B', path], env, folder, logs, stdin=subprocess.PIPE,
@@ -25,7 +25,7 @@ class Helper:
             pipes.stdin.write(json.dumps({'ask': question, **values}).encode() + b'\n')
             pipes.stdin.flush()
         except OSError:
-            raise DesktopError(f'the helper has ended: {self._program.errors()[-500:]}') from None
+            raise DesktopError(f'the program has ended: {self._program.errors()[-500:]}') from None
         if not select.select([pipes.stdout], [], [], seconds)[0]:
             raise DesktopError(f'{question}: no answer within {seconds:g} s')
         line = pipes.stdout.readline()
