@@ -33,6 +33,7 @@ void Timer::SetResting(bool resting) {
 void Timer::connectNotify(const QMetaMethod&) {
     followHandlers();
 }
+
 // The toolkit calls this with its connections locked, so the look at them waits for the event loop.
 void Timer::disconnectNotify(const QMetaMethod&) {
     QMetaObject::invokeMethod(this, &Timer::followHandlers, Qt::QueuedConnection);

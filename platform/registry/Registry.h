@@ -5,8 +5,8 @@
 // HKEY_LOCAL_MACHINE are a settings file each (RegistryPaths); a file may hold keys of other roots, which are
 // kept and not used. Every call sees the files as they are at that moment. A change outside of a Batch is
 // saved before the call returns. The machine's file can be changed only by who may write it. One thread at a
-// time; the system calls must outlive
-// the registry, handles and batches must not. Format: docs/registry-format.md.
+// time; the system calls must outlive the registry, handles and batches must not. Format:
+// docs/registry-format.md.
 
 #include "platform/registry/Hive.h"
 #include "platform/registry/RegistryPaths.h"
