@@ -116,6 +116,14 @@ TEST(MessageDecoder, BelievesNoSizeThatCannotBe) {
     }
 }
 
+TEST(MessageDecoder, TakesSoundForSoundThoughItBeginsLikeAChunk) {
+    auto file = pcm();
+    const auto letters = textBytes("LIST\x7f\x7f\x7f\x7f");
+    std::ranges::copy(letters, file.begin() + kPcmData);
+    setNumber(file, 40, 0);
+    EXPECT_EQ(decodeMessage(file, "m.wav").frames(), 1600U);
+}
+
 TEST(MessageDecoder, MendsSizesOfCompressedSoundToo) {
     for (const int format : {SF_FORMAT_GSM610, SF_FORMAT_IMA_ADPCM, SF_FORMAT_MS_ADPCM}) {
         auto file = fileOf({"compressed", format, 8000, 1}, 1);

@@ -148,7 +148,7 @@ MessageReader gatedReader(const std::shared_ptr<Gate>& gate, Waiting& waiting, W
 TEST(MessageReader, GivesUpOnAServerThatStopsAnswering) {
     const auto gate = std::make_shared<Gate>();
     CountingWait waiting;
-    auto reader = gatedReader(gate, waiting, {milliseconds{50}, std::chrono::seconds{20}});
+    auto reader = gatedReader(gate, waiting, {milliseconds{50}, std::chrono::minutes{10}});
     EXPECT_EQ(errorTextOf([&] { reader.read("m.wav"); }),
               "m.wav: the server does not answer. The message could not be read.");
     EXPECT_GT(waiting.passes, 0);
