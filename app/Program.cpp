@@ -2,8 +2,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "app/Program.h"
 
+#include "app/OutsideEvents.h"
 #include "data/ShareMappings.h"
-#include "errors/EventDoor.h"
 #include "platform/forms/Text.h"
 #include "platform/forms/UserLocale.h"
 #include "platform/jet/Connection.h"
@@ -39,8 +39,8 @@ forms::MessageBoxButtonTexts buttonTexts() {
 
 } // namespace
 
-Program::Program(SingleInstance& instance)
-    : m_dateTimeFormat(forms::userDateTimeFormat()), m_facts(errors::programFacts(executable())),
+Program::Program(Application& application, SingleInstance& instance)
+    : m_application(application), m_dateTimeFormat(forms::userDateTimeFormat()), m_facts(errors::programFacts(executable())),
       m_shownErrors(
           errorLog(), m_clock,
           [this] { return std::make_unique<errors::frmError>(m_facts, m_errorDialogState, nullptr); }),
@@ -59,6 +59,7 @@ Program::Program(SingleInstance& instance)
            [this] { return std::make_shared<data::clsConfig>(m_registry, m_messageBoxes, m_errorHandler); },
            shareAccess()}) {
     connectEvents(instance);
+    m_application.reportTo(&m_errorHandler);
 }
 
 share::ShareResolver Program::resolver() {
@@ -91,18 +92,22 @@ ShareAccess Program::shareAccess() {
 }
 
 void Program::connectEvents(SingleInstance& instance) {
-    const errors::EventDoor door{m_errorHandler};
+    const OutsideEvents events{m_errorHandler,
+                               {[this] { m_main.showWindow(); }, [this] { m_main.notificationAreaMissing(); },
+                                [this] { m_main.notificationAreaReturned(); },
+                                [this] { m_main.unload(UnloadMode::SessionEnd); }}};
     QObject::connect(&m_main, &frmMain::unloaded, qApp, &QCoreApplication::quit, Qt::QueuedConnection);
-    QObject::connect(&instance, &SingleInstance::activated, &m_main,
-                     [this, door] { door.run("frmMain", "Activate", [this] { m_main.showWindow(); }); });
-    QObject::connect(&m_areaWatch, &shell::NotificationAreaWatch::missing, &m_main, [this, door] {
-        door.run("frmMain", "NotificationAreaMissing", [this] { m_main.notificationAreaMissing(); });
-    });
+    QObject::connect(&instance, &SingleInstance::activated, &m_main, [events] { events.activated(); });
+    QObject::connect(&m_areaWatch, &shell::NotificationAreaWatch::missing, &m_main,
+                     [events] { events.notificationAreaMissing(); });
     QObject::connect(&m_areaWatch, &shell::NotificationAreaWatch::returned, &m_main,
-                     [this] { m_main.notificationAreaReturned(); });
-    const auto endSession = [this] { m_main.unload(UnloadMode::SessionEnd); };
-    QObject::connect(&m_signals, &TerminationSignals::received, &m_main, endSession);
-    QObject::connect(qApp, &QGuiApplication::commitDataRequest, &m_main, endSession);
+                     [events] { events.notificationAreaReturned(); });
+    QObject::connect(&m_signals, &TerminationSignals::received, &m_main, [events] { events.sessionEnds(); });
+    QObject::connect(qApp, &QGuiApplication::commitDataRequest, &m_main, [events] { events.sessionEnds(); });
+}
+
+Program::~Program() {
+    m_application.reportTo(nullptr);
 }
 
 int Program::run() {

@@ -5,6 +5,7 @@
 // and runs the event loop. What is declared first is needed by what follows and outlives it. One object, on
 // the user-interface thread, gone before the application object.
 
+#include "app/Application.h"
 #include "app/CountsAhead.h"
 #include "app/LastErrors.h"
 #include "app/ShareWaiter.h"
@@ -33,7 +34,8 @@ namespace app {
 
 class Program {
 public:
-    explicit Program(SingleInstance& instance);
+    Program(Application& application, SingleInstance& instance);
+    ~Program();
     Program(const Program&) = delete;
     Program& operator=(const Program&) = delete;
 
@@ -47,6 +49,7 @@ private:
     share::ShareResolver resolver();
     ShareAccess shareAccess();
 
+    Application& m_application;
     basic::SystemClock m_clock;
     basic::DateTimeFormat m_dateTimeFormat;
     errors::ProgramFacts m_facts;

@@ -1,5 +1,6 @@
 // SPDX-FileCopyrightText: 2026 The qmClient authors
 // SPDX-License-Identifier: GPL-3.0-or-later
+#include "app/Application.h"
 #include "app/Program.h"
 #include "app/SingleInstance.h"
 #include "platform/forms/ToolkitTexts.h"
@@ -23,7 +24,7 @@ void preferX11() {
 
 int main(int argc, char* argv[]) {
     preferX11();
-    QApplication application(argc, argv);
+    app::Application application(argc, argv);
     QApplication::setApplicationName(QStringLiteral("qmClient"));
     QApplication::setApplicationVersion(
         QString::fromUtf8(resources::kVersion.data(), resources::kVersion.size()));
@@ -37,6 +38,6 @@ int main(int argc, char* argv[]) {
     app::SingleInstance instance;
     if (!instance.claim())
         return 0;
-    app::Program program(instance);
+    app::Program program(application, instance);
     return program.run();
 }
