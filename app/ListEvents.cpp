@@ -43,6 +43,7 @@ void ListEvents::lsCalls_MouseUp(int button, const QPoint& globalPos) {
         proc.step([&] { m_parts.ab.PopupMenu("mnuPopup", globalPos); });
 }
 
+// No trap (frmMain, TabStrip_Click): ignores all errors.
 void ListEvents::TabStrip_Click() {
     try {
         m_parts.state.currentConnection.reset();

@@ -3,6 +3,7 @@
 #include "app/LoadCaptions.h"
 
 #include "app/CommandBarLayout.h"
+#include "errors/Procedure.h"
 #include "platform/forms/Text.h"
 #include "resources/StringTable.h"
 
@@ -75,23 +76,27 @@ void nameButtons(forms::Band& status) {
     status.Tools("miSFwd").SetAccessibleName(forms::toQString(text(5033, "Fast forward")));
 }
 
+void setText(const forms::CommandBar& ab, const ToolText& entry) {
+    forms::Tool& tool = ab.Bands(entry.band).Tools(entry.tool);
+    const std::string value = text(entry.id, entry.english);
+    if (entry.property == Property::Caption) {
+        tool.SetCaption(value);
+    } else {
+        tool.SetToolTipText(value);
+        tool.SetDescription(value);
+    }
+}
+
 } // namespace
 
-void LoadCaptions(QWidget& window, forms::CommandBar& ab) {
-    window.setWindowTitle(forms::toQString(text(105, "Quillamar Calls")));
-    for (const ToolText& entry : kTools) {
-        forms::Tool& tool = ab.Bands(entry.band).Tools(entry.tool);
-        const std::string value = text(entry.id, entry.english);
-        if (entry.property == Property::Caption) {
-            tool.SetCaption(value);
-        } else {
-            tool.SetToolTipText(value);
-            tool.SetDescription(value);
-        }
-    }
+void LoadCaptions(errors::ErrorHandler& errorHandler, QWidget& window, forms::CommandBar& ab) {
+    errors::Procedure proc{errorHandler, "frmMain", "LoadCaptions"};
+    proc.step([&] { window.setWindowTitle(forms::toQString(text(105, "Quillamar Calls"))); });
+    for (const ToolText& entry : kTools)
+        proc.step([&] { setText(ab, entry); });
     for (const BandText& entry : kBands)
-        ab.Bands(entry.band).SetCaption(text(entry.id, entry.english));
-    nameButtons(ab.Bands(kBandStatus));
+        proc.step([&] { ab.Bands(entry.band).SetCaption(text(entry.id, entry.english)); });
+    proc.step([&] { nameButtons(ab.Bands(kBandStatus)); });
 }
 
 } // namespace app

@@ -3,7 +3,7 @@
 #include "app/MailboxData.h"
 
 #include "app/StatusLine.h"
-#include "platform/basic/RuntimeError.h"
+#include "platform/basic/ObjectOf.h"
 #include "resources/StringTable.h"
 
 #include <string>
@@ -92,7 +92,7 @@ void MailboxData::addTabs(errors::Procedure& proc, const data::clsConfig& config
 bool MailboxData::InitConnection() {
     errors::Procedure proc{m_parts.errorHandler, "frmMain", "InitConnection"};
     std::string server;
-    proc.step([&] { server = m_parts.state.config->ServerName; });
+    proc.step([&] { server = basic::objectOf(m_parts.state.config).ServerName; });
     if (server.empty())
         return false;
     return proc.value(false, [&] { return m_parts.files.FolderExists(m_parts.common.GetQMPath(server)); });

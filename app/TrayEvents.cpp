@@ -35,24 +35,33 @@ void TrayEvents::attach(tray::frmSysTray& icon) {
     icon.AddMenuItem(text(3770, "Close Quillamar Client"), QStringLiteral("close"), false);
 
     connect(&icon, &tray::frmSysTray::MenuClick, this,
-            [this](int, const QString& key) { MenuClick(forms::fromQString(key)); });
+            [this](int, const QString& key) { m_frmSysTray_MenuClick(key); });
     connect(&icon, &tray::frmSysTray::SysTrayDoubleClick, this,
-            [this] { withErrorsIgnored([this] { m_parts.main.showWindow(); }); });
-    connect(&icon, &tray::frmSysTray::SysTrayMouseDown, this, [&icon](int button) {
-        if (button == kRightButton)
-            withErrorsIgnored([&icon] { icon.ShowMenu(); });
-    });
+            [this] { m_frmSysTray_SysTrayDoubleClick(); });
+    connect(&icon, &tray::frmSysTray::SysTrayMouseDown, this,
+            [this, &icon](int button) { m_frmSysTray_SysTrayMouseDown(icon, button); });
 }
 
-void TrayEvents::MenuClick(std::string_view key) {
+// No trap (frmMain, m_frmSysTray_SysTrayDoubleClick): ignores all errors.
+void TrayEvents::m_frmSysTray_SysTrayDoubleClick() {
+    withErrorsIgnored([this] { m_parts.main.showWindow(); });
+}
+
+// No trap (frmMain, m_frmSysTray_SysTrayMouseDown): ignores all errors.
+void TrayEvents::m_frmSysTray_SysTrayMouseDown(tray::frmSysTray& icon, int button) {
+    if (button == kRightButton)
+        withErrorsIgnored([&icon] { icon.ShowMenu(); });
+}
+
+void TrayEvents::m_frmSysTray_MenuClick(const QString& key) {
     errors::Procedure proc{m_parts.errorHandler, "frmMain", "m_frmSysTray_MenuClick"};
-    if (key == "open")
+    if (key == u"open")
         proc.step([&] { m_parts.main.showWindow(); });
-    else if (key == "config")
+    else if (key == u"config")
         proc.step([&] { m_parts.main.ab_ToolClick("miVOptions"); });
-    else if (key == "about")
+    else if (key == u"about")
         proc.step([&] { m_parts.main.ab_ToolClick("miHAbout"); });
-    else if (key == "close")
+    else if (key == u"close")
         proc.step([&] { requestExit(); });
 }
 

@@ -12,8 +12,7 @@
 #include "tray/frmSysTray.h"
 
 #include <QObject>
-
-#include <string_view>
+#include <QString>
 
 namespace app {
 
@@ -32,9 +31,11 @@ public:
     // Creates the icon's menu and listens. The icon must not outlive this object.
     void attach(tray::frmSysTray& icon);
 
-    void MenuClick(std::string_view key);
+    void m_frmSysTray_MenuClick(const QString& key);
 
 private:
+    void m_frmSysTray_SysTrayDoubleClick();
+    void m_frmSysTray_SysTrayMouseDown(tray::frmSysTray& icon, int button);
     void requestExit();
 
     Parts m_parts;

@@ -39,10 +39,14 @@ void WindowMessages::detach() {
     m_subclass.DetachMessage(m_list);
 }
 
-void WindowMessages::layOut() {
-    m_list.setGeometry(forms::toPixels(minus(m_tabStrip.ClientLeft(), kToTheLeft),
-                                       plus(m_tabStrip.ClientTop(), kLower),
-                                       plus(m_tabStrip.ClientWidth(), kWider), m_tabStrip.ClientHeight()));
+// No trap (frmMain, Form_Resize): lays out with all errors ignored.
+void WindowMessages::layOut() noexcept {
+    try {
+        m_list.setGeometry(
+            forms::toPixels(minus(m_tabStrip.ClientLeft(), kToTheLeft), plus(m_tabStrip.ClientTop(), kLower),
+                            plus(m_tabStrip.ClientWidth(), kWider), m_tabStrip.ClientHeight()));
+    } catch (...) { // NOLINT(bugprone-empty-catch): the next size lays out again
+    }
 }
 
 std::intptr_t WindowMessages::ISubclass_WindowProc(std::uintptr_t /*hwnd*/, std::uint32_t message,

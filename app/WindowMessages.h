@@ -22,7 +22,7 @@ public:
     void detach();
 
     // Moves the list onto the strip's client area.
-    void layOut();
+    void layOut() noexcept;
 
     int ISubclass_MsgResponse() override { return forms::kMsgTaken; }
     std::intptr_t ISubclass_WindowProc(std::uintptr_t hwnd, std::uint32_t message, std::intptr_t wParam,

@@ -6,6 +6,7 @@
 #include "app/LoadCaptions.h"
 #include "data/ListToClipBoard.h"
 #include "errors/Procedure.h"
+#include "platform/basic/ObjectOf.h"
 #include "platform/forms/ListViewMessages.h"
 #include "platform/forms/ModalState.h"
 #include "platform/forms/Text.h"
@@ -109,7 +110,7 @@ void frmMain::addCommands() {
 
 void frmMain::Form_Load() {
     errors::Procedure proc{m_services.errorHandler, "frmMain", "Form_Load"};
-    proc.step([&] { LoadCaptions(*this, m_ab); });
+    proc.step([&] { LoadCaptions(m_services.errorHandler, *this, m_ab); });
     proc.step([&] { setWindowTitle(text(3682, "Quillamar Calls")); });
     proc.step([&] { dockPlayer(); });
     proc.step([&] { m_ab.SetClientAreaControl(&m_TabStrip); });
@@ -121,7 +122,7 @@ void frmMain::Form_Load() {
     proc.step([&] { hide(); });
     proc.step([&] { m_state.config = m_services.newConfig(); });
     const auto config = m_state.config;
-    proc.step([&] { config->LoadConfig(); });
+    proc.step([&] { basic::objectOf(config).LoadConfig(); });
     // A report lets events run, and the user or the session may have ended the program in one.
     if (m_isUnloaded || m_state.exitRequested)
         return;

@@ -28,6 +28,7 @@ std::string asText(const RegistryValue& value);
 // The value as a number: 0 for empty; text must read as a number, or it is error 13.
 std::int32_t asNumber(const RegistryValue& value);
 
+// No trap (basRegistry): failures go to the procedure that asks, which reports them.
 class basRegistry {
 public:
     basRegistry(registry::Registry& registry, forms::MessageBoxes& boxes)

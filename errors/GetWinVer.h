@@ -26,6 +26,7 @@ static_assert(sizeof(VersionRecord) == kVersionRecordSize);
 // Fills a record whose size is set; false when it cannot.
 using GetVersionExA = std::function<bool(VersionRecord&)>;
 
+// No trap (frmError, GetWinVer): belongs to the error dialog.
 // Name, " Build:", number, a blank, service pack; empty when the call fails. A system that is not in the
 // table has an empty name, and without a service pack the text ends in the blank.
 std::string GetWinVer(const GetVersionExA& getVersionEx);

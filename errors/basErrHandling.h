@@ -21,6 +21,7 @@
 
 namespace errors {
 
+// No trap (basErrHandling): each of its own statements that fails is skipped.
 class basErrHandling final : public ErrorHandler {
 public:
     using MakeDialog = std::function<std::unique_ptr<ErrorDialog>()>;

@@ -24,6 +24,7 @@ struct ErrorDialogState {
     bool detailsExpanded = false;
 };
 
+// No trap (frmError): a report of its failure would show the very dialog that fails.
 class frmError final : public QDialog, public ErrorDialog {
     Q_OBJECT
 public:

@@ -2,7 +2,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "tray/frmAlert.h"
 
-#include "errors/Procedure.h"
 #include "platform/basic/Twips.h"
 #include "platform/forms/ModalState.h"
 #include "resources/Icons.h"
@@ -57,8 +56,8 @@ frmAlert::frmAlert(errors::ErrorHandler& errorHandler, shell::DesktopWindows& de
     m_lblInfo->setObjectName(u"lblInfo"_qs);
     m_lblInfo->setTextFormat(Qt::PlainText);
     m_Label1->setAccessibleName(text(129, "Close"));
-    connect(m_Label1, &LinkLabel::clicked, this, [this] { linkClicked(false); });
-    connect(m_Label2, &LinkLabel::clicked, this, [this] { linkClicked(true); });
+    connect(m_Label1, &LinkLabel::clicked, this, &frmAlert::Label1_Click);
+    connect(m_Label2, &LinkLabel::clicked, this, &frmAlert::Label2_Click);
     layOut();
 }
 
@@ -112,9 +111,19 @@ void frmAlert::ShowForm() {
     proc.step([&] { m_desktop.makeTopMost(*this); });
 }
 
-void frmAlert::linkClicked(bool ShowList) {
-    hide();
-    Q_EMIT Show(ShowList);
+void frmAlert::Label1_Click() {
+    errors::Procedure proc{m_errors, "frmAlert", "Label1_Click"};
+    leave(proc, false);
+}
+
+void frmAlert::Label2_Click() {
+    errors::Procedure proc{m_errors, "frmAlert", "Label2_Click"};
+    leave(proc, true);
+}
+
+void frmAlert::leave(errors::Procedure& proc, bool ShowList) {
+    proc.step([&] { hide(); });
+    proc.step([&] { Q_EMIT Show(ShowList); });
 }
 
 } // namespace tray

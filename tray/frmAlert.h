@@ -6,7 +6,7 @@
 // and raises Show. It stays until then, never takes the keyboard, and lives as long as the owner wants to
 // reuse it. User-interface thread; the error handler and the desktop must outlive it.
 
-#include "errors/ErrorHandler.h"
+#include "errors/Procedure.h"
 #include "platform/shell/DesktopWindows.h"
 
 #include <QWidget>
@@ -38,7 +38,9 @@ protected:
 
 private:
     void layOut();
-    void linkClicked(bool ShowList);
+    void Label1_Click();
+    void Label2_Click();
+    void leave(errors::Procedure& proc, bool ShowList);
 
     errors::ErrorHandler& m_errors;
     shell::DesktopWindows& m_desktop;

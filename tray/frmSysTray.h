@@ -32,6 +32,7 @@ struct TrayServices {
     std::uint32_t getVersion = kGetVersion;
 };
 
+// No trap (frmSysTray): whoever calls it or handles its events answers for failures.
 class frmSysTray : public QObject {
     Q_OBJECT
 public:
