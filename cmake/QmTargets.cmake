@@ -45,3 +45,12 @@ function(qm_test name)
   gtest_discover_tests(${name} TEST_PREFIX "${name}." DISCOVERY_TIMEOUT 60
     PROPERTIES LABELS "${arg_LABELS}" TIMEOUT 120)
 endfunction()
+
+# qm_provocations(SOURCES … [LINKS …]) adds a subsystem's provocations (tests/errors/Provocation.h) to the test
+# that walks the list of all procedures.
+function(qm_provocations)
+  cmake_parse_arguments(PARSE_ARGV 0 arg "" "" "SOURCES;LINKS")
+  list(TRANSFORM arg_SOURCES PREPEND ${CMAKE_CURRENT_SOURCE_DIR}/)
+  target_sources(procedure_tests PRIVATE ${arg_SOURCES})
+  target_link_libraries(procedure_tests PUBLIC ${arg_LINKS})
+endfunction()

@@ -47,8 +47,8 @@ void MainWorld::removeShare() const {
 
 void MainWorld::load() {
     window.emplace(MainServices{
-        errorHandler, files, common, clipboard, desktop, tray::TrayServices{notificationArea, windows, icons},
-        format, [this] { return std::make_shared<data::clsConfig>(registry, messageBoxes, errorHandler); },
+        reportTo, files, common, clipboard, desktop, tray::TrayServices{notificationArea, windows, icons},
+        format, [this] { return std::make_shared<data::clsConfig>(registry, messageBoxes, reportTo); },
         shareAccess});
     window->Form_Load();
 }

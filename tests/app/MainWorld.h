@@ -6,6 +6,7 @@
 // replaced: the notification area, the desktop's rectangles and the error dialog record what they are asked.
 
 #include "app/frmMain.h"
+#include "platform/basic/RuntimeError.h"
 #include "platform/forms/QtClipboard.h"
 #include "platform/jet/Connection.h"
 #include "platform/jet/Engine.h"
@@ -29,6 +30,8 @@ class QuietNotificationArea final : public shell::NotificationArea {
 public:
     bool Shell_NotifyIconA(std::uint32_t, std::span<const std::byte>) override { return true; }
     bool Shell_NotifyIconW(std::uint32_t message, std::span<const std::byte>) override {
+        if (message == failing)
+            throw basic::RuntimeError(basic::kInvalidProcedureCall);
         messages.push_back(message);
         return true;
     }
@@ -38,7 +41,8 @@ public:
     }
     void trackPopupMenu(shell::WindowHandle) override { ++tracked; }
 
-    std::vector<std::uint32_t> messages; // NIM_ADD 0, NIM_MODIFY 1, NIM_DELETE 2, NIM_SETVERSION 4
+    std::vector<std::uint32_t> messages;  // NIM_ADD 0, NIM_MODIFY 1, NIM_DELETE 2, NIM_SETVERSION 4
+    std::optional<std::uint32_t> failing; // the message that throws
     QMenu* menu = nullptr;
     shell::WindowHandle window = 0; // the icon's
     int tracked = 0;                // times the menu was shown
@@ -56,6 +60,10 @@ public:
 
 class MainWorld : public testing::Test {
 protected:
+    MainWorld() : MainWorld(nullptr) {}
+    // Failures go to `other` instead of errorHandler.
+    explicit MainWorld(errors::ErrorHandler* other) : reportTo(other != nullptr ? *other : errorHandler) {}
+
     // The settings name the server; its share is there unless removeShare() is called.
     void configure(const std::vector<int>& mailboxes, int pollSeconds = 10,
                    const std::string& server = "srv01");
@@ -81,6 +89,7 @@ protected:
 
     share::testing::TemporaryFolder folder;
     errors::RecordingErrorHandler errorHandler;
+    errors::ErrorHandler& reportTo;
     data::RecordedBoxes messageBoxes;
     forms::QtClipboard clipboard;
     QuietNotificationArea notificationArea;
@@ -93,7 +102,7 @@ protected:
     share::LocalFileSystemObject files{share::ShareResolver(
         [this](std::string_view server) { return shareOf(server); }, [] { return std::string(); })};
     jet::Engine engine{files, [](int) {}};
-    data::basCommon common{errorHandler, files, [this] { return std::make_shared<jet::Connection>(engine); }};
+    data::basCommon common{reportTo, files, [this] { return std::make_shared<jet::Connection>(engine); }};
     std::map<int, tests::CallLogFile> mailboxes;
     ShareAccess shareAccess;
     std::optional<frmMain> window;
