@@ -30,6 +30,7 @@ constexpr std::array kTexts{
     Entry{kInvalidPropertyValue, "Invalid property value"},
     Entry{kNonModalWhileModal, "Can't show non-modal form when modal form is displayed"},
     Entry{kNoSuchMember, "Object doesn't support this property or method"},
+    Entry{kCannotCreateObject, "ActiveX component can't create object"},
     Entry{kKeyInUse, "This key is already associated with an element of this collection"},
     Entry{kElementNotFound, "Element not found"},
     Entry{kKeyNotUnique, "Key is not unique in collection"},

@@ -29,6 +29,7 @@ inline constexpr std::int32_t kInvalidUseOfNull = 94;
 inline constexpr std::int32_t kInvalidPropertyValue = 380;
 inline constexpr std::int32_t kNonModalWhileModal = 401;
 inline constexpr std::int32_t kNoSuchMember = 438;
+inline constexpr std::int32_t kCannotCreateObject = 429;
 inline constexpr std::int32_t kKeyInUse = 457;
 inline constexpr std::int32_t kElementNotFound = 35601;
 inline constexpr std::int32_t kKeyNotUnique = 35602;
