@@ -40,12 +40,15 @@ forms::MessageBoxButtonTexts buttonTexts() {
 } // namespace
 
 Program::Program(Application& application, SingleInstance& instance)
-    : m_application(application), m_dateTimeFormat(forms::userDateTimeFormat()), m_facts(errors::programFacts(executable())),
+    : m_application(application), m_dateTimeFormat(forms::userDateTimeFormat()),
+      m_facts(errors::programFacts(executable())),
+      m_messageBoxes(buttonTexts(), forms::toQString(resources::kProductTitle)),
+      m_mail(text(5080, "The error report is attached as a text file.")),
+      m_report(m_mail, m_messageBoxes, m_clock),
       m_shownErrors(
           errorLog(), m_clock,
-          [this] { return std::make_unique<errors::frmError>(m_facts, m_errorDialogState, nullptr); }),
+          [this] { return std::make_unique<errors::frmError>(m_facts, m_errorDialogState, &m_report); }),
       m_errorHandler(m_shownErrors, [this] { return m_waiter.isEnded(); }),
-      m_messageBoxes(buttonTexts(), forms::toQString(resources::kProductTitle)),
       m_registry(registry::pathsFromEnvironment(), m_systemCalls),
       m_smbServers(smbSurroundings(), smbAddresses()), m_folders(resolver()),
       m_servers(m_smbServers, m_waiter), m_files(resolver(), m_folders, m_servers),

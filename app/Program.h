@@ -13,6 +13,7 @@
 #include "app/TerminationSignals.h"
 #include "app/frmMain.h"
 #include "data/basCommon.h"
+#include "errors/MailedReport.h"
 #include "errors/basErrHandling.h"
 #include "errors/frmError.h"
 #include "platform/basic/DateTimeFormat.h"
@@ -25,6 +26,7 @@
 #include "platform/share/RoutedFileSystemObject.h"
 #include "platform/share/smb/SmbFileSystemObject.h"
 #include "platform/shell/DelayTimer.h"
+#include "platform/shell/DesktopMail.h"
 #include "platform/shell/DesktopNotificationArea.h"
 #include "platform/shell/DesktopTrayHosts.h"
 #include "platform/shell/NotificationAreaWatch.h"
@@ -54,10 +56,12 @@ private:
     basic::DateTimeFormat m_dateTimeFormat;
     errors::ProgramFacts m_facts;
     errors::ErrorDialogState m_errorDialogState;
+    forms::QtMessageBoxes m_messageBoxes;
+    shell::DesktopMail m_mail;
+    errors::MailedReport m_report;
     errors::basErrHandling m_shownErrors;
     ShareWaiter m_waiter;
     LastErrors m_errorHandler;
-    forms::QtMessageBoxes m_messageBoxes;
     forms::QtClipboard m_clipboard;
     registry::SystemCalls m_systemCalls;
     registry::Registry m_registry;

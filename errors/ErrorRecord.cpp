@@ -18,6 +18,17 @@ std::string padded(std::int32_t number) {
     return digits;
 }
 
+// A value has one line in the record, whatever it brings along: a line break becomes a blank.
+std::string onOneLine(std::string_view value) {
+    std::string line;
+    for (std::size_t i = 0; i < value.size(); ++i) {
+        const bool isPair = value[i] == '\r' && i + 1 < value.size() && value[i + 1] == '\n';
+        if (!isPair)
+            line.push_back(value[i] == '\r' || value[i] == '\n' ? ' ' : value[i]);
+    }
+    return line;
+}
+
 } // namespace
 
 std::string timeText(const basic::CalendarTime& time) {
@@ -28,10 +39,10 @@ std::string recordText(const ErrorRecord& record) {
     std::string text;
     text.append("***** Error ").append(padded(record.number));
     text.append(" at: ").append(timeText(record.at)).append("\r\n");
-    text.append("  *** Module:         ").append(record.module).append("\r\n");
-    text.append("  *** Procedure:      ").append(record.procedure).append("\r\n");
+    text.append("  *** Module:         ").append(onOneLine(record.module)).append("\r\n");
+    text.append("  *** Procedure:      ").append(onOneLine(record.procedure)).append("\r\n");
     text.append("  *** Line Number:    ").append(std::to_string(record.line)).append("\r\n");
-    text.append("  *** Description:    ").append(record.description).append("\r\n");
+    text.append("  *** Description:    ").append(onOneLine(record.description)).append("\r\n");
     return text;
 }
 

@@ -2,7 +2,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 // One failure as the error log keeps it: five lines, each closed by CR LF, values from the 23rd column on.
-// Other programs read the log, so labels and blanks stay as they are.
+// Other programs read the log, so labels and blanks stay as they are, and a line break in a value is written
+// as a blank: a record never has another number of lines.
 
 #include "platform/basic/Calendar.h"
 

@@ -18,7 +18,7 @@ ALLOWED = {
     "platform/forms": ["platform/basic"],
     "platform/shell": ["platform/basic"],
     "resources": ["platform/basic"],
-    "errors": ["platform/basic", "platform/forms", "resources"],
+    "errors": ["platform/basic", "platform/forms", "platform/shell", "resources"],
     "data": ["platform/basic", "platform/registry", "platform/share", "platform/jet", "platform/forms",
              "resources", "errors"],
     "tray": ["platform/basic", "platform/forms", "platform/shell", "resources", "errors"],

@@ -4,6 +4,7 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <limits>
 #include <sstream>
 #include <vector>
@@ -55,6 +56,13 @@ TEST(ErrorRecord, ANegativeNumberKeepsItsSignAndAllItsDigits) {
 TEST(ErrorRecord, AProcedureWithoutLineNumbersLogsZero) {
     EXPECT_NE(recordText({"m", "p", 1, "d", 0, kTime}).find("\r\n  *** Line Number:    0\r\n"),
               std::string::npos);
+}
+
+TEST(ErrorRecord, ADescriptionWithLineBreaksKeepsTheRecordAtFiveLines) {
+    const std::string text = recordText({"m", "p", 75, "one\r\ntwo\nthree\rfour\n\nfive\r\n", 0, kTime});
+    EXPECT_EQ(std::count(text.begin(), text.end(), '\n'), 5);
+    EXPECT_EQ(std::count(text.begin(), text.end(), '\r'), 5);
+    EXPECT_TRUE(text.ends_with("  *** Description:    one two three four  five \r\n")) << text;
 }
 
 TEST(ErrorRecord, TimeIsOnATwentyFourHourClockWithLeadingZeros) {

@@ -1,0 +1,204 @@
+# SPDX-FileCopyrightText: 2026 The qmClient authors
+# SPDX-License-Identifier: GPL-3.0-or-later
+"""Failures of the real client: the log, the dialog and the mailed report as their user has them.
+
+What is to be looked at afterwards is kept in the build folder: artefacts/errors.
+"""
+import email
+import email.policy
+import os
+import pathlib
+import re
+import sys
+import unittest
+import urllib.parse
+
+sys.dont_write_bytecode = True
+sys.path.insert(0, str(pathlib.Path(__file__).resolve().parents[1] / 'desktop'))
+from desktop import wait_until  # noqa: E402
+from scene import FIRST, SECOND, SceneTest  # noqa: E402
+
+ARTEFACTS = pathlib.Path(os.environ['QM_BIN']).parent / 'artefacts' / 'errors'
+PAGE = 4096
+RECORD = re.compile(r'\*\*\*\*\* Error (-?[0-9]{5,}) at: [0-9]{4}-[0-9]{2}-[0-9]{2} [0-9]{2}:[0-9]{2}:[0-9]{2}\r\n'
+                    r'  \*\*\* Module:         ([^\r\n]*)\r\n'
+                    r'  \*\*\* Procedure:      ([^\r\n]*)\r\n'
+                    r'  \*\*\* Line Number:    ([0-9]+)\r\n'
+                    r'  \*\*\* Description:    ([^\r\n]*)\r\n')
+
+
+def with_damaged_definition(database):
+    """The database with the definition page of its CallLog overwritten; all other pages are whole."""
+    pages = [database[at:at + PAGE] for at in range(0, len(database), PAGE)]
+    name = 'CallerName'.encode('utf-16-le')
+    found = [number for number, page in enumerate(pages) if page[:2] == b'\x02\x01' and name in page]
+    assert len(found) == 1, found
+    pages[found[0]] = bytes(PAGE)
+    return b''.join(pages)
+
+
+class ErrorTest(SceneTest):
+    def setUp(self):
+        super().setUp()
+        ARTEFACTS.mkdir(parents=True, exist_ok=True)
+        self.tools = self.desktop.folder / 'tools'
+        self.tools.mkdir()
+        self.desktop.env['PATH'] = f'{self.tools}:{self.desktop.env["PATH"]}'
+
+    def break_client(self):
+        """A client that polls a damaged database and says so."""
+        self.client = self.start({FIRST: 12, SECOND: 3})
+        self.sound = self.keep(FIRST)
+        self.replace(FIRST, with_damaged_definition(self.sound))
+        self.wait_button(self.RETRY)
+
+    IGNORE, RETRY, CANCEL, SEND, DETAILS = 'Ignore', 'Try again', 'Cancel', 'Send', 'Details >>'
+
+    def button(self, caption):
+        found = self.desktop.objects(self.client.process, 'push button', f'^{re.escape(caption)}$')
+        window = self.desktop.windows.active()
+        return found[0] if found and window and window.pid == self.client.process.pid else None
+
+    def wait_button(self, caption):
+        return wait_until(lambda: self.button(caption), f'a button {caption!r}', 20)
+
+    def press(self, caption):
+        self.desktop.click_object(self.wait_button(caption), self.desktop.windows.active())
+
+    def log(self):
+        file = self.desktop.folder / 'home' / 'qmClient.log'
+        return file.read_bytes().decode() if file.exists() else ''
+
+    def records(self):
+        return RECORD.findall(self.log())
+
+    def wait_records(self, count):
+        wait_until(lambda: len(self.records()) >= count, f'{count} records in the log', 20)
+
+    def record_calls_of(self, program):
+        """A program of that name first in PATH that keeps what it is given."""
+        record = self.desktop.folder / program
+        script = self.tools / program
+        script.write_text(f"#!/bin/sh\ncat > '{record}.input'\nprintf '%s\\0' \"$@\" > '{record}.new'\n"
+                          f"mv '{record}.new' '{record}.arguments'\n")
+        script.chmod(0o755)
+
+    def called(self, program):
+        return (self.desktop.folder / f'{program}.arguments').exists()
+
+    def call_of(self, program):
+        """Its arguments and its input."""
+        record = self.desktop.folder / f'{program}.arguments'
+        wait_until(record.exists, f'a call of {program}', 20)
+        return (record.read_bytes().decode().split('\0')[:-1],
+                (self.desktop.folder / f'{program}.input').read_bytes())
+
+
+class PollTest(ErrorTest):
+    def test_try_again_goes_on_with_the_poll_once_the_definition_is_put_right(self):
+        client = self.client = self.start({FIRST: 12, SECOND: 3})
+        self.sound = self.keep(FIRST)
+        self.replace(SECOND, b'This is no database at all. ' * 1000)
+        self.replace(FIRST, with_damaged_definition(self.sound))
+        self.wait_records(1)
+        self.press(self.RETRY)
+        self.wait_records(2)
+        self.wait_button(self.RETRY)
+        self.replace(FIRST, self.sound)
+        self.add_calls(FIRST, 2)
+        self.press(self.RETRY)
+        self.assertEqual(client.wait_popup(2), 'You have  2  new calls')
+        log = self.log()
+        (ARTEFACTS / 'qmClient.log').write_bytes(log.encode())
+        self.assertEqual(RECORD.sub('', log), '', 'nothing but whole records')
+        for number, module, procedure, line, description in self.records():
+            self.assertEqual((module, procedure), ('frmMain', 'mTimer_ThatTime'))
+            self.assertLess(int(number), 0)
+            self.assertGreater(int(line), 0)
+            self.assertIn(rf'MBX\{FIRST}\qmLog.mdb', description)
+
+    def test_ignore_goes_on_with_the_next_mailbox(self):
+        self.break_client()
+        self.add_calls(SECOND, 1)
+        self.press(self.IGNORE)
+        self.client.wait_popup_past_errors(1)
+
+    def test_a_failure_can_be_read_in_the_log_while_its_dialog_is_up(self):
+        self.break_client()
+        self.assertGreaterEqual(len(self.records()), 1)
+        self.assertEqual(RECORD.sub('', self.log()), '')
+
+
+class ReportTest(ErrorTest):
+    def test_send_gives_the_report_to_the_mail_transfer_program(self):
+        self.record_calls_of('sendmail')
+        self.break_client()
+        self.press(self.SEND)
+        self.wait_button('No')
+        self.assertFalse(self.called('sendmail'), 'nothing goes out before the user has answered')
+        self.press('No')
+        arguments, message = self.call_of('sendmail')
+        self.assertEqual(arguments, ['-i', '--', 'support@corvantis.example'])
+        (ARTEFACTS / 'report.eml').write_bytes(message)
+        mail = email.message_from_bytes(message, policy=email.policy.default)
+        self.assertEqual(mail.defects, [])
+        self.assertEqual(mail['To'], 'support@corvantis.example')
+        self.assertEqual(mail['Subject'], 'Quillamar Client Error-Report: Quillamar Client (qmClient)')
+        self.assertIsNotNone(mail['Date'].datetime)
+        lines = mail.get_content().splitlines()
+        self.assertRegex(lines[0], '^Error occured at: [0-9]{4}-')
+        self.assertEqual(lines[2], 'Component: \tQuillamar Client (qmClient)')
+        self.assertEqual(lines[4], 'Modul:     \tfrmMain - mTimer_ThatTime')
+        self.press('OK')
+        self.press(self.CANCEL)
+
+    def test_yes_hands_the_report_to_the_users_mail_program(self):
+        self.record_calls_of('xdg-email')
+        self.record_calls_of('sendmail')
+        self.break_client()
+        self.press(self.SEND)
+        self.press('Yes')
+        arguments, _ = self.call_of('xdg-email')
+        self.assertEqual(len(arguments), 1)
+        uri = urllib.parse.urlsplit(arguments[0])
+        fields = dict(urllib.parse.parse_qsl(uri.query, strict_parsing=True))
+        self.assertEqual(uri.path, 'support@corvantis.example')
+        self.assertEqual(fields['subject'], 'Quillamar Client Error-Report: Quillamar Client (qmClient)')
+        self.assertTrue(fields['body'].startswith('Error occured at: '), fields['body'])
+        self.assertIn(f'\\\\srv01\\Quillamar_0$\\MBX\\{FIRST}\\qmLog.mdb', fields['body'])
+        self.assertTrue(fields['body'].endswith('Comments:  \r\n\r\n'), repr(fields['body'][-40:]))
+        self.assertFalse(self.called('sendmail'))
+        self.press(self.CANCEL)
+
+
+class GermanTest(ErrorTest):
+    lang = 'de_DE.UTF-8'
+    RETRY = 'Wiederholen'
+
+    def test_the_dialog_is_german_collapsed_and_expanded(self):
+        self.break_client()
+        for caption in ('Senden', 'Ignorieren', 'Wiederholen', 'Abbrechen', 'Details >>'):
+            self.assertTrue(self.button(caption), caption)
+        take_pictures(self, 'de')
+
+
+class EnglishTest(ErrorTest):
+    def test_the_dialog_is_english_collapsed_and_expanded(self):
+        self.break_client()
+        for caption in ('Send', 'Ignore', 'Try again', 'Cancel', 'Details >>'):
+            self.assertTrue(self.button(caption), caption)
+        take_pictures(self, 'en')
+
+
+def take_pictures(test, language):
+    window = test.desktop.windows.active()
+    test.desktop.screenshot(ARTEFACTS / f'dialog-{language}-collapsed.png', window.rect)
+    test.press('Details >>')
+    test.wait_button('Details <<')
+    wait_until(lambda: test.desktop.windows.active().height > window.height, 'the dialog to grow')
+    window = test.desktop.windows.active()
+    test.desktop.screenshot(ARTEFACTS / f'dialog-{language}-expanded.png', window.rect)
+
+
+if __name__ == '__main__':
+    unittest.main(verbosity=2)
