@@ -57,7 +57,7 @@ const Provocation kToolClick{"frmMain", "ab_ToolClick", basic::kInvalidProcedure
 Effect fromOutside(Trial& trial, void (OutsideEvents::*event)() const) {
     Breakable handler(trial);
     const auto run = [&] { handler(); };
-    const OutsideEvents events{trial, {run, run, run}};
+    const OutsideEvents events{trial, {run, run, run, run}};
     (events.*event)();
     return {handler.wasRun()};
 }
@@ -67,6 +67,9 @@ const Provocation kActivate{"frmMain", "Activate", basic::kInvalidProcedureCall,
 const Provocation kAreaMissing{
     "frmMain", "NotificationAreaMissing", basic::kInvalidProcedureCall,
     [](Trial& trial) { return fromOutside(trial, &OutsideEvents::notificationAreaMissing); }};
+const Provocation kAreaReturned{
+    "frmMain", "NotificationAreaReturned", basic::kInvalidProcedureCall,
+    [](Trial& trial) { return fromOutside(trial, &OutsideEvents::notificationAreaReturned); }};
 const Provocation kEndSession{"frmMain", "EndSession", basic::kInvalidProcedureCall,
                               [](Trial& trial) { return fromOutside(trial, &OutsideEvents::sessionEnds); }};
 
