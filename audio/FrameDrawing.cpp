@@ -35,6 +35,7 @@ int borderOf(std::int32_t edge) {
 
 void FrameDrawing::DrawLabelEdge(const forms::Placement& control, forms::Surface& surface, std::int32_t edge,
                                  std::int32_t flags) {
+    // Reports as ctlAudio.DrawLabelEdge, cltButton.DrawLabelEdge
     errors::Procedure proc{m_errors, m_module, "DrawLabelEdge"};
     QRect rectangle;
     proc.step([&] { rectangle = onePixelOutside(control); });
@@ -46,11 +47,13 @@ void FrameDrawing::DrawLabelEdge(const forms::Placement& control, forms::Surface
 }
 
 void FrameDrawing::EvaluateSize(forms::Surface& surface) {
+    // Reports as ctlAudio.EvaluateSize, cltButton.EvaluateSize
     errors::Procedure proc{m_errors, m_module, "EvaluateSize"};
     proc.step([&] { selectClip(surface); });
 }
 
 void FrameDrawing::EvaluateSize2() {
+    // Reports as ctlAudio.EvaluateSize2, cltButton.EvaluateSize2
     errors::Procedure proc{m_errors, m_module, "EvaluateSize2"};
     proc.step([&] { selectClip(m_own); });
 }

@@ -39,6 +39,7 @@ std::vector<mediagraph::WaveOutCaps> basAudio::allDevices(std::uint32_t count) {
     return devices;
 }
 
+// No trap (basAudio, PauseWithEvents): ignores all errors.
 void basAudio::PauseWithEvents(const std::int32_t& milliseconds) {
     const std::int32_t slice = milliseconds / kRounds;
     for (int round = 0; round < kRounds; ++round) {

@@ -182,6 +182,7 @@ void clsWave::run(errors::Procedure& proc) {
     proc.step([&] { setPlayState(kPlaying); });
 }
 
+// No trap (clsWave, Pause): its failures are those of who calls it.
 void clsWave::Pause() {
     const auto graph = m_Graph;
     if (!graph)
@@ -229,6 +230,7 @@ void clsWave::stopRecording(errors::Procedure& proc) {
     proc.step([&] { m_CurrentDuration = 0; });
 }
 
+// No trap (clsWave, SetIsPlaying): sets a property.
 void clsWave::SetIsPlaying(bool isPlaying) {
     m_IsPlaying = isPlaying;
     const basic::Date now = m_services.clock.nowAsDate();
@@ -270,16 +272,19 @@ bool clsWave::hasEnded() const {
     }
 }
 
+// No trap (clsWave, Forward): its failures are those of who calls it.
 void clsWave::Forward() {
     if (m_Events)
         stepForward(*position());
 }
 
+// No trap (clsWave, Backward): its failures are those of who calls it.
 void clsWave::Backward() {
     if (m_Events)
         stepBackward(*position());
 }
 
+// No trap (clsWave, SetPos): its failures are those of who calls it.
 void clsWave::SetPos(const double& Percentage) {
     if (!m_Events || m_PlayState == kStopped)
         return;

@@ -130,7 +130,7 @@ void ctlAudio::StopPlay() {
     tellState(proc);
 }
 
-// The one command without a trap: its failures are those of who calls it.
+// No trap (ctlAudio, Forward): the one command without; its failures are those of who calls it.
 void ctlAudio::Forward() {
     if (const auto wave = m_WaveObject)
         wave->Forward();
@@ -206,6 +206,7 @@ void ctlAudio::Draw() {
     proc.step([&] { update(); });
 }
 
+// No trap (ctlAudio, Refresh): asks for painting, later.
 void ctlAudio::Refresh() {
     update();
     m_lblPos->update();
