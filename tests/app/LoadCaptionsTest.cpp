@@ -106,7 +106,7 @@ protected:
 
     void load(resources::Language language) {
         resources::setLanguage(language);
-        LoadCaptions(window, ab);
+        LoadCaptions(errorHandler, window, ab);
     }
     void expectTexts(const std::array<BandTexts, 7>& expected) {
         ASSERT_EQ(ab.BandCount(), 7);
@@ -116,6 +116,7 @@ protected:
     }
 
     errors::RecordingErrorHandler errors;
+    errors::RecordingErrorHandler errorHandler;
     QMainWindow window;
     forms::CommandBar ab{window};
 
