@@ -46,8 +46,9 @@ SoundServer::SoundServer(Begin begin) {
 
 void SoundServer::start() {
     const std::string script = m_folder.makeFile("default.pa", kScript + socket() + "\n");
+    // Idle, it ends by itself: a test that crashed leaves none behind.
     m_process = std::make_unique<ChildProcess>(std::vector<std::string>{
-        "pulseaudio", "-n", "--daemonize=no", "--system=false", "--exit-idle-time=-1", "--realtime=no",
+        "pulseaudio", "-n", "--daemonize=no", "--system=false", "--exit-idle-time=60", "--realtime=no",
         "--high-priority=no", "--use-pid-file=no", "--disallow-exit", "-F", script});
     ASSERT_TRUE(waitUntil([] { return PulseServer().sinks().has_value(); })) << "no sound server";
 }
