@@ -8,6 +8,7 @@
 #include "platform/forms/UserLocale.h"
 #include "platform/jet/Connection.h"
 #include "platform/share/MountTable.h"
+#include "platform/share/smb/CredentialsFile.h"
 #include "resources/ProductData.h"
 #include "resources/StringTable.h"
 
@@ -16,6 +17,7 @@
 #include <QRandomGenerator>
 #include <QSessionManager>
 
+#include <filesystem>
 #include <utility>
 
 namespace app {
@@ -31,6 +33,12 @@ std::string executable() {
 
 errors::ErrorLog errorLog() {
     return {errors::baseNameOf(executable()) + ".log", errors::stateFolder()};
+}
+
+// Beside the user's settings.
+std::string credentialsFile() {
+    const std::filesystem::path settings = registry::pathsFromEnvironment().currentUser;
+    return (settings.parent_path() / "credentials").string();
 }
 
 forms::MessageBoxButtonTexts buttonTexts() {
@@ -78,7 +86,8 @@ share::smb::SmbServers::Addresses Program::smbAddresses() {
 share::smb::SmbServer::Surroundings Program::smbSurroundings() {
     return {.program = share::smb::helperProgram(),
             .spread = [] { return QRandomGenerator::global()->generateDouble(); },
-            .credentials = [](const std::string&) { return share::smb::Credentials{}; }};
+            .credentials = [file = credentialsFile()](
+                               const std::string&) { return share::smb::readCredentialsFile(file); }};
 }
 
 ShareAccess Program::shareAccess() {

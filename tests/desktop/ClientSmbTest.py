@@ -3,6 +3,7 @@
 """The real client against a server that it reaches by SMB alone: restarts, hangs, the end."""
 import contextlib
 import os
+import pathlib
 import signal
 import sys
 import unittest
@@ -10,7 +11,7 @@ import unittest
 sys.dont_write_bytecode = True
 from client import Client  # noqa: E402
 from desktop import wait_until  # noqa: E402
-from samba import Samba  # noqa: E402
+from samba import PASSWORD, USER, Samba  # noqa: E402
 from scene import FIRST, SECOND, SceneTest  # noqa: E402
 
 
@@ -88,6 +89,42 @@ class SmbTest(SceneTest):
         client.wait_line('A connection to the server could not be established.', seconds=30)
         self.samba.start()
         client.wait_rows(12, seconds=90)
+
+
+class PasswordTest(SceneTest):
+    """A server that knows no guests."""
+
+    def setUp(self):
+        super().setUp()
+        self.samba = Samba(self.desktop, self.share, guests=False)
+
+    def write_settings(self, numbers, **settings):
+        super().write_settings(numbers, share=self.samba.address, **settings)
+
+    def write_credentials(self, password):
+        path = pathlib.Path(self.desktop.env['XDG_CONFIG_HOME']) / 'Corvantis' / 'Quillamar' / 'credentials'
+        path.parent.mkdir(parents=True, exist_ok=True)
+        path.write_text(f'username={USER}\npassword={password}\n')
+        path.chmod(0o600)
+
+    def test_logs_on_as_the_credentials_file_says(self):
+        self.write_credentials(PASSWORD)
+        client = self.start({FIRST: 12})
+        self.add_calls(FIRST, 3)
+        client.wait_popup(3)
+        self.assertEqual(self.samba.log_ons('NT_STATUS_WRONG_PASSWORD'), 0)
+
+    def test_tries_a_wrong_password_once_however_often_it_polls(self):
+        self.make_mailbox(FIRST, 12)
+        self.write_settings((FIRST,))
+        self.write_credentials('wrong')
+        client = Client(self.desktop)
+        client.open()
+        client.wait_line('A connection to the server could not be established.', seconds=30)
+        # Polls went on meanwhile: the settings file's other values are read at each of them.
+        self.write_credentials(PASSWORD)
+        client.hide()
+        self.assertEqual(self.samba.log_ons('NT_STATUS_WRONG_PASSWORD'), 1)
 
 
 def status_of(pid, name):

@@ -60,9 +60,9 @@ void SmbServer::startHelper(Waiter& waiter) {
         m_helper.reset();
     if (m_helper)
         return;
+    m_credentials = m_surroundings.credentials(m_name);
     m_helper = std::make_unique<HelperProcess>(m_surroundings.program);
     Request logOn{.verb = Verb::LogOn, .length = m_address.port, .path = m_address.host};
-    m_credentials = m_surroundings.credentials(m_name);
     logOn.data = encodeLogOn(m_credentials);
     m_lastFailure = exchange(logOn, waiter);
     wipe(logOn.data.data(), logOn.data.size());
