@@ -49,8 +49,16 @@ CountAnswers CountsAhead::answersTo(const CountQuestion& question) {
     CountAnswers answers;
     answers.isShareThere = m_files.FolderExists(question.share);
     for (const auto& [mailbox, database] : question.databases)
-        answers.mailboxes[mailbox] = answers.isShareThere ? countOf(database) : CountAnswer{};
+        answers.mailboxes[mailbox] = answers.isShareThere ? answerFor(database) : CountAnswer{};
     return answers;
+}
+
+// A server that went away between the opening and the count is a mailbox that is not available, which the
+// second question finds out, or one that has come back already.
+CountAnswer CountsAhead::answerFor(const std::string& database) {
+    CountAnswer answer = countOf(database);
+    const bool isOfTheShare = answer.failure && answer.failure->number() >= 0;
+    return isOfTheShare ? countOf(database) : answer;
 }
 
 CountAnswer CountsAhead::countOf(const std::string& database) {

@@ -56,6 +56,7 @@ public:
 
 private:
     CountAnswers answersTo(const CountQuestion& question);
+    CountAnswer answerFor(const std::string& database);
     CountAnswer countOf(const std::string& database);
 
     share::smb::SmbServers& m_servers;
