@@ -5,7 +5,7 @@
 #include "app/StatusLine.h"
 #include "data/CallLog.h"
 #include "platform/forms/Events.h"
-#include "platform/forms/ListViewMessages.h"
+#include "platform/forms/ListViewMacros.h"
 #include "resources/StringTable.h"
 
 #include <QScopedValueRollback>
@@ -16,8 +16,6 @@ namespace app {
 namespace {
 
 using resources::LoadLocalString;
-
-constexpr std::intptr_t kAllBits = -1; // of which the mask lets one through
 
 std::vector<data::ColumnDescription> columnTable() {
     return {{"", "", {70}, 0},
@@ -84,9 +82,7 @@ void CallList::loadMailbox(errors::Procedure& proc, const data::clsConfig& confi
         m_parts.fillList(m_parts.list, *records, columns, true,
                          selected ? selected->Key() : std::string_view());
     });
-    proc.step([&] {
-        m_parts.list.sendMessage(forms::LVM_SETEXTENDEDLISTVIEWSTYLE, forms::LVS_EX_FULLROWSELECT, kAllBits);
-    });
+    proc.step([&] { forms::selectFullRows(m_parts.list); });
     const int count = proc.value(0, [&] { return m_parts.list.ListItems().Count(); });
     for (int index = 1; index <= count && proc.running(); ++index)
         proc.step([&] { m_parts.list.ListItems().Item(index).SetGhosted(false); });

@@ -4,6 +4,7 @@
 
 #include "app/StatusLine.h"
 #include "platform/basic/ObjectOf.h"
+#include "resources/Icons.h"
 #include "resources/StringTable.h"
 
 #include <string>
@@ -12,8 +13,6 @@ namespace app {
 namespace {
 
 using resources::LoadLocalString;
-
-constexpr int kMailboxImage = 1;
 
 std::int32_t inMilliseconds(std::int32_t seconds) {
     std::int32_t result = 0;
@@ -82,7 +81,8 @@ void MailboxData::addTabs(errors::Procedure& proc, const data::clsConfig& config
     for (const auto& mailbox : mailboxes) {
         if (!proc.running() || m_parts.state.generation != generation)
             return;
-        proc.step([&] { tabs.Add("KEY" + std::to_string(mailbox->ID), mailbox->Name, kMailboxImage); });
+        proc.step(
+            [&] { tabs.Add("KEY" + std::to_string(mailbox->ID), mailbox->Name, resources::kMailboxImage); });
     }
     // A single mailbox is shown without tabs: no tabs is how everybody recognises that case.
     if (proc.value(false, [&] { return tabs.Count() == 1; }))

@@ -7,7 +7,7 @@
 #include "data/ListToClipBoard.h"
 #include "errors/Procedure.h"
 #include "platform/basic/ObjectOf.h"
-#include "platform/forms/ListViewMessages.h"
+#include "platform/forms/ListViewMacros.h"
 #include "platform/forms/ModalState.h"
 #include "platform/forms/Text.h"
 #include "resources/Icons.h"
@@ -24,7 +24,6 @@ namespace app {
 namespace {
 
 constexpr QSize kFirstSize{640, 420};
-constexpr std::intptr_t kAllBits = -1;
 constexpr std::string_view kOptions = "miVOptions";
 
 QString text(std::int32_t id, std::string_view english) {
@@ -115,9 +114,7 @@ void frmMain::Form_Load() {
     proc.step([&] { dockPlayer(); });
     proc.step([&] { m_ab.SetClientAreaControl(&m_TabStrip); });
     proc.step([&] { m_TabStrip.Tabs().Clear(); });
-    proc.step([&] {
-        m_lsCalls.sendMessage(forms::LVM_SETEXTENDEDLISTVIEWSTYLE, forms::LVS_EX_FULLROWSELECT, kAllBits);
-    });
+    proc.step([&] { forms::selectFullRows(m_lsCalls); });
     proc.step([&] { loadTrayIcon(); });
     proc.step([&] { hide(); });
     proc.step([&] { m_state.config = m_services.newConfig(); });
