@@ -6,6 +6,7 @@
 // User-interface thread.
 
 #include "errors/ErrorHandler.h"
+#include "errors/Procedure.h"
 
 #include <functional>
 #include <string>
@@ -16,12 +17,15 @@ namespace app {
 
 class Commands {
 public:
-    using Command = std::function<void()>;
+    // Its statements are steps of the dispatcher's procedure.
+    using Command = std::function<void(errors::Procedure&)>;
 
     explicit Commands(errors::ErrorHandler& errorHandler) : m_errors(errorHandler) {}
 
     // Commands are compared in the order in which they are added; the first match runs.
     void add(std::string toolName, Command command);
+    // One that is a single statement.
+    void add(std::string toolName, std::function<void()> statement);
 
     void ab_ToolClick(std::string_view toolName);
 

@@ -5,11 +5,13 @@
 // outlive the window.
 
 #include "app/ShareAccess.h"
+#include "audio/ctlAudio.h"
 #include "data/basCommon.h"
 #include "data/clsConfig.h"
 #include "errors/ErrorHandler.h"
 #include "platform/basic/DateTimeFormat.h"
 #include "platform/forms/Clipboard.h"
+#include "platform/forms/MessageBoxes.h"
 #include "platform/share/FileSystemObject.h"
 #include "platform/shell/DesktopWindows.h"
 #include "tray/frmSysTray.h"
@@ -24,10 +26,12 @@ struct MainServices {
     share::FileSystemObject& files;
     data::basCommon& common;
     forms::Clipboard& clipboard;
+    forms::MessageBoxes& messageBoxes;
     shell::DesktopWindows& desktop;
     tray::TrayServices tray;
     const basic::DateTimeFormat& dateTimeFormat;
     std::function<std::shared_ptr<data::clsConfig>()> newConfig;
+    audio::PlayerServices player;
     ShareAccess shareAccess{};
 };
 

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "app/Program.h"
 
+#include "app/MessageFiles.h"
 #include "app/OutsideEvents.h"
 #include "data/ShareMappings.h"
 #include "platform/forms/Text.h"
@@ -62,13 +63,11 @@ Program::Program(Application& application, SingleInstance& instance)
       m_servers(m_smbServers, m_waiter), m_files(resolver(), m_folders, m_servers),
       m_countsAhead(m_smbServers, resolver()), m_engine(m_files),
       m_common(m_errorHandler, m_files, [this] { return std::make_shared<jet::Connection>(m_engine); }),
-      m_trayHosts(QDBusConnection::sessionBus()), m_notificationArea(m_windows, m_icons, m_trayHosts),
-      m_areaWatch(m_trayHosts, m_patience),
-      m_main(
-          {m_errorHandler, m_files, m_common, m_clipboard, m_desktop,
-           tray::TrayServices{m_notificationArea, m_windows, m_icons}, m_dateTimeFormat,
-           [this] { return std::make_shared<data::clsConfig>(m_registry, m_messageBoxes, m_errorHandler); },
-           shareAccess()}) {
+      m_values(m_registry, m_messageBoxes),
+      m_sound(messageFiles(registry::pathsFromEnvironment(), smbSurroundings()), m_waiter),
+      m_audio(m_errorHandler, m_sound.waveOut()), m_trayHosts(QDBusConnection::sessionBus()),
+      m_notificationArea(m_windows, m_icons, m_trayHosts), m_areaWatch(m_trayHosts, m_patience),
+      m_main(mainServices()) {
     connectEvents(instance);
     m_application.reportTo(&m_errorHandler);
 }
@@ -101,6 +100,27 @@ ShareAccess Program::shareAccess() {
                     m_waiter.endWaits();
                 },
             .countsAhead = &m_countsAhead};
+}
+
+MainServices Program::mainServices() {
+    return {m_errorHandler,
+            m_files,
+            m_common,
+            m_clipboard,
+            m_messageBoxes,
+            m_desktop,
+            tray::TrayServices{m_notificationArea, m_windows, m_icons},
+            m_dateTimeFormat,
+            [this] { return std::make_shared<data::clsConfig>(m_registry, m_messageBoxes, m_errorHandler); },
+            playerServices(),
+            shareAccess()};
+}
+
+audio::PlayerServices Program::playerServices() {
+    return {m_errorHandler, m_messageBoxes, m_files, m_audio, [this] {
+                return std::make_shared<audio::clsWave>(audio::WaveServices{
+                    m_errorHandler, m_messageBoxes, m_sound.graphs(), m_audio, m_values, m_clock});
+            }};
 }
 
 void Program::connectEvents(SingleInstance& instance) {

@@ -12,7 +12,9 @@
 #include "app/SingleInstance.h"
 #include "app/TerminationSignals.h"
 #include "app/frmMain.h"
+#include "audio/basAudio.h"
 #include "data/basCommon.h"
+#include "data/basRegistry.h"
 #include "errors/MailedReport.h"
 #include "errors/basErrHandling.h"
 #include "errors/frmError.h"
@@ -21,6 +23,7 @@
 #include "platform/forms/QtClipboard.h"
 #include "platform/forms/QtMessageBoxes.h"
 #include "platform/jet/Engine.h"
+#include "platform/mediagraph/SoundSystem.h"
 #include "platform/registry/Registry.h"
 #include "platform/share/LocalFileSystemObject.h"
 #include "platform/share/RoutedFileSystemObject.h"
@@ -50,6 +53,8 @@ private:
     share::smb::SmbServers::Addresses smbAddresses();
     share::ShareResolver resolver();
     ShareAccess shareAccess();
+    MainServices mainServices();
+    audio::PlayerServices playerServices();
 
     Application& m_application;
     basic::SystemClock m_clock;
@@ -72,6 +77,9 @@ private:
     CountsAhead m_countsAhead;
     jet::Engine m_engine;
     data::basCommon m_common;
+    data::basRegistry m_values;
+    mediagraph::SoundSystem m_sound;
+    audio::basAudio m_audio;
     shell::WindowTable m_windows;
     shell::IconTable m_icons;
     shell::DesktopTrayHosts m_trayHosts;

@@ -2,23 +2,12 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "app/Selection.h"
 
+#include "app/Keys.h"
 #include "platform/basic/Conversion.h"
 
-#include <algorithm>
 #include <optional>
 
 namespace app {
-namespace {
-
-constexpr std::size_t kTabKeyPrefix = 3;  // "KEY"
-constexpr std::size_t kItemKeyPrefix = 1; // "K"
-
-// A status line has no key: what is left of it is the empty text.
-std::string_view withoutPrefix(std::string_view key, std::size_t length) {
-    return key.substr(std::min(length, key.size()));
-}
-
-} // namespace
 
 void Selection::ChangeItem() {
     errors::Procedure proc{m_parts.errorHandler, "frmMain", "ChangeItem"};

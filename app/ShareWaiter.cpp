@@ -8,6 +8,7 @@
 #include <poll.h>
 
 #include <algorithm>
+#include <thread>
 #include <utility>
 
 namespace app {
@@ -47,15 +48,31 @@ Waited ShareWaiter::letEventsRun(int descriptor, std::chrono::milliseconds atMos
     connect(&deadline, &QTimer::timeout, &loop, [&loop] { loop.exit(kTimeOver); });
     deadline.start(atMost);
 
+    const int end = exec(loop);
+    if (m_isEnded || (end != kReadable && end != kTimeOver))
+        return Waited::Cancelled;
+    return end == kReadable ? Waited::Ready : Waited::TimeOver;
+}
+
+// Inside of another wait, or when the program ends, nothing may run.
+void ShareWaiter::pass(std::chrono::milliseconds time) {
+    if (m_isEnded || isWaiting()) {
+        std::this_thread::sleep_for(time);
+        return;
+    }
+    QEventLoop loop;
+    QTimer::singleShot(time, Qt::PreciseTimer, &loop, &QEventLoop::quit);
+    exec(loop);
+}
+
+int ShareWaiter::exec(QEventLoop& loop) {
     m_loop = &loop;
     const int end = loop.exec(QEventLoop::ExcludeUserInputEvents);
     m_loop = nullptr;
     m_sinceEvents.start();
     if (!m_later.empty())
         QMetaObject::invokeMethod(this, &ShareWaiter::runNext, Qt::QueuedConnection);
-    if (m_isEnded || (end != kReadable && end != kTimeOver))
-        return Waited::Cancelled;
-    return end == kReadable ? Waited::Ready : Waited::TimeOver;
+    return end;
 }
 
 void ShareWaiter::afterWaiting(std::function<void()> work) {

@@ -7,6 +7,7 @@
 // isWaiting() or comes by afterWaiting(). One wait at a time: a wait from inside a wait ends at once, as
 // cancelled. User-interface thread.
 
+#include "platform/mediagraph/Waiting.h"
 #include "platform/share/smb/Waiter.h"
 
 #include <QElapsedTimer>
@@ -18,13 +19,16 @@
 
 namespace app {
 
-class ShareWaiter final : public QObject, public share::smb::Waiter {
+class ShareWaiter final : public QObject, public share::smb::Waiter, public mediagraph::Waiting {
     Q_OBJECT
 public:
     // How long events may be kept waiting before they are let run.
     static constexpr std::chrono::milliseconds kPatience{50};
 
     share::smb::Waited untilReadable(int descriptor, std::chrono::milliseconds atMost) override;
+
+    // A part of the wait for a message that is read, or for the sound server.
+    void pass(std::chrono::milliseconds time) override;
 
     bool isWaiting() const noexcept { return m_loop != nullptr; }
     // Runs `work` now, or as soon as nobody waits any more.
@@ -37,6 +41,7 @@ public:
 private:
     bool isSoonReadable(int descriptor, std::chrono::milliseconds atMost);
     share::smb::Waited letEventsRun(int descriptor, std::chrono::milliseconds atMost);
+    int exec(QEventLoop& loop);
     void runNext();
 
     QEventLoop* m_loop = nullptr; // of the wait that is under way

@@ -59,7 +59,11 @@ frmMain::frmMain(const MainServices& services)
       m_selection(
           {services.errorHandler, services.common, m_lsCalls, m_TabStrip, m_state,
            [this](const auto& connection, const auto& callID) { Q_EMIT ItemChanged(connection, callID); }}),
-      m_buttonStates({services.errorHandler, m_ab, m_lsCalls, [] { return PlaybackState{}; }}),
+      m_buttonStates(
+          {services.errorHandler, m_ab, m_lsCalls,
+           [this] {
+               return PlaybackState{m_ctlAudio.IsPlaying(), m_ctlAudio.IsPaused(), m_ctlAudio.HasFile()};
+           }}),
       m_callList({services.errorHandler,
                   services.common,
                   {services.errorHandler, services.dateTimeFormat},
@@ -71,9 +75,11 @@ frmMain::frmMain(const MainServices& services)
               [this](std::int32_t newCalls) { announce(newCalls); }, m_services.shareAccess}),
       m_mailboxData({services.errorHandler, services.common, services.files, m_lsCalls, m_TabStrip, m_mTimer,
                      m_state, *this}),
-      m_commands(services.errorHandler), m_trayEvents({services.errorHandler, m_mTimer, m_state, *this}),
+      m_commands(services.errorHandler),
+      m_playMessage({services.common, services.messageBoxes, m_lsCalls, m_TabStrip, m_state, m_ctlAudio}),
+      m_trayEvents({services.errorHandler, m_mTimer, m_state, *this}),
       m_listEvents({services.errorHandler, m_lsCalls, m_TabStrip, m_ab, m_state, *this}),
-      m_messages(services.errorHandler, m_lsCalls, m_TabStrip) {
+      m_messages(services.errorHandler, m_lsCalls, m_TabStrip), m_ctlAudio(services.player) {
     setObjectName(QStringLiteral("frmMain"));
     m_TabStrip.setObjectName(QStringLiteral("TabStrip"));
     m_lsCalls.setObjectName(QStringLiteral("lsCalls"));
@@ -101,10 +107,26 @@ void frmMain::addCommands() {
             [this](forms::Tool& tool) { ab_ToolClick(tool.Name()); });
     m_commands.add("miFExit", [this] { unload(); });
     m_commands.add("miFHide", [this] { hideWindow(); });
+    addPlayerCommands();
     m_commands.add("miECopy", [this] {
         data::ListToClipBoard(m_services.errorHandler, m_lsCalls, m_services.clipboard);
     });
     m_commands.add("miESelectAll", [this] { selectAll(); });
+}
+
+void frmMain::addPlayerCommands() {
+    m_commands.add("miSPlay", [this](errors::Procedure& proc) { m_playMessage(proc); });
+    m_commands.add("miSPause", [this] { m_ctlAudio.Pause(); });
+    m_commands.add("miSStop", [this] { m_ctlAudio.StopPlay(); });
+    m_commands.add("miSFwd", [this] { m_ctlAudio.Forward(); });
+    m_commands.add("miSRew", [this] { m_ctlAudio.Backward(); });
+    connect(&m_ctlAudio, &audio::ctlAudio::StateChanged, this, [this] { UpdateButtonStates(); });
+}
+
+// While the window unloads, events run; what they ask for comes too late.
+void frmMain::mTimer_ThatTime() {
+    if (!m_isUnloaded)
+        m_poll.mTimer_ThatTime();
 }
 
 void frmMain::Form_Load() {
@@ -145,6 +167,8 @@ void frmMain::loadDialogs() {
 
 // A command that comes while a server is waited for (from the tray's menu: the window takes none) runs after.
 void frmMain::ab_ToolClick(std::string_view toolName) {
+    if (m_isUnloaded)
+        return;
     m_services.shareAccess.userActs();
     if (toolName == kOptions)
         m_services.shareAccess.userLogsOn();
@@ -182,7 +206,7 @@ void frmMain::selectAll() {
 }
 
 void frmMain::dockPlayer() {
-    m_ab.Bands(kBandStatus).Tools("miSProgress").SetCustom(&m_playerPlace);
+    m_ab.Bands(kBandStatus).Tools("miSProgress").SetCustom(&m_ctlAudio);
 }
 
 void frmMain::showWindow() {
@@ -242,6 +266,7 @@ void frmMain::unload(UnloadMode mode) {
 
 void frmMain::Form_Unload() {
     errors::Procedure proc{m_services.errorHandler, "frmMain", "Form_Unload"};
+    proc.step([&] { m_ctlAudio.UnInit(); });
     proc.step([&] { m_ab.Bands(kBandStatus).Tools("miSProgress").SetCustom(nullptr); });
     proc.step([&] { m_messages.detach(); });
     proc.step([&] { m_mTimer.SetEnabled(false); });

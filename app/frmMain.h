@@ -14,10 +14,12 @@
 #include "app/MainProcedures.h"
 #include "app/MainServices.h"
 #include "app/MainState.h"
+#include "app/PlayMessage.h"
 #include "app/Poll.h"
 #include "app/Selection.h"
 #include "app/TrayEvents.h"
 #include "app/WindowMessages.h"
+#include "audio/ctlAudio.h"
 #include "platform/forms/CommandBar.h"
 #include "platform/forms/ListView.h"
 #include "platform/forms/TabStrip.h"
@@ -49,7 +51,7 @@ public:
     void LoadList() override { m_callList.LoadList(); }
     void ChangeItem() override { m_selection.ChangeItem(); }
     void UpdateButtonStates() override { m_buttonStates.UpdateButtonStates(); }
-    void mTimer_ThatTime() override { m_poll.mTimer_ThatTime(); }
+    void mTimer_ThatTime() override;
     void ab_ToolClick(std::string_view toolName) override;
     void showWindow() override;
     void hideWindow() override;
@@ -70,6 +72,7 @@ public:
     MainState& state() { return m_state; }
     forms::Timer& timer() { return m_mTimer; }
     WindowMessages& messages() { return m_messages; }
+    const forms::CommandBar& ab() const { return m_ab; }
 
 Q_SIGNALS:
     void ItemChanged(const std::shared_ptr<jet::Connection>& connection, const std::string& callID);
@@ -83,6 +86,7 @@ protected:
 
 private:
     void addCommands();
+    void addPlayerCommands();
     void loadTrayIcon();
     void loadDialogs();
     bool Form_QueryUnload(UnloadMode mode);
@@ -105,16 +109,17 @@ private:
     Poll m_poll;
     MailboxData m_mailboxData;
     Commands m_commands;
+    PlayMessage m_playMessage;
     TrayEvents m_trayEvents;
     ListEvents m_listEvents;
     WindowMessages m_messages;
-    QWidget m_playerPlace; // what miSProgress hosts; the player goes in here
 
     std::unique_ptr<tray::frmSysTray> m_frmSysTray;
     std::unique_ptr<tray::frmAlert> m_AlertForm;
     bool m_isUnloaded = false;
     bool m_closeMinimises = false;
     bool m_showsWhenPossible = false;
+    audio::ctlAudio m_ctlAudio; // last: letting it go lets events run
 };
 
 } // namespace app

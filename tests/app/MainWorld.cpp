@@ -46,11 +46,19 @@ void MainWorld::removeShare() const {
 }
 
 void MainWorld::load() {
-    window.emplace(MainServices{
-        reportTo, files, common, clipboard, desktop, tray::TrayServices{notificationArea, windows, icons},
-        format, [this] { return std::make_shared<data::clsConfig>(registry, messageBoxes, reportTo); },
-        shareAccess});
+    window.emplace(
+        MainServices{reportTo, files, common, clipboard, messageBoxes, desktop,
+                     tray::TrayServices{notificationArea, windows, icons}, format,
+                     [this] { return std::make_shared<data::clsConfig>(registry, messageBoxes, reportTo); },
+                     playerServices(), shareAccess});
     window->Form_Load();
+}
+
+audio::PlayerServices MainWorld::playerServices() {
+    return {reportTo, messageBoxes, files, audioDevices, [this] {
+                return std::make_shared<audio::clsWave>(
+                    audio::WaveServices{reportTo, messageBoxes, sound, audioDevices, values, clock});
+            }};
 }
 
 std::vector<std::string> MainWorld::column(int index) {

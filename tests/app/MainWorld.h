@@ -12,6 +12,8 @@
 #include "platform/jet/Engine.h"
 #include "platform/registry/Registry.h"
 #include "platform/share/LocalFileSystemObject.h"
+#include "tests/audio/RecordedSound.h"
+#include "tests/audio/SetClock.h"
 #include "tests/data/CallLogFile.h"
 #include "tests/data/SettingsWorld.h"
 #include "tests/errors/RecordingErrorHandler.h"
@@ -81,6 +83,8 @@ protected:
     std::string settingsFile() const {
         return registry::RegistryFolder::content(folder.path("registry.reg"));
     }
+    audio::PlayerServices playerServices();
+    audio::ctlAudio& player() { return *window->findChild<audio::ctlAudio*>(); }
     void tick() { window->mTimer_ThatTime(); }
     // Only srv01 has a share.
     std::optional<std::string> shareOf(std::string_view server) const {
@@ -103,6 +107,11 @@ protected:
         [this](std::string_view server) { return shareOf(server); }, [] { return std::string(); })};
     jet::Engine engine{files, [](int) {}};
     data::basCommon common{reportTo, files, [this] { return std::make_shared<jet::Connection>(engine); }};
+    audio::RecordedSound sound;
+    audio::SetClock clock;
+    data::basRegistry values{registry, messageBoxes};
+    std::function<void(std::int32_t)> onSleep = [](std::int32_t) {};
+    audio::basAudio audioDevices{reportTo, sound, [this](std::int32_t ms) { onSleep(ms); }};
     std::map<int, tests::CallLogFile> mailboxes;
     ShareAccess shareAccess;
     std::optional<frmMain> window;

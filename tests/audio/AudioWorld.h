@@ -6,6 +6,7 @@
 
 #include "audio/clsWave.h"
 #include "tests/audio/RecordedSound.h"
+#include "tests/audio/SetClock.h"
 #include "tests/data/SettingsWorld.h"
 #include "tests/errors/RecordingErrorHandler.h"
 
@@ -16,13 +17,6 @@
 #include <vector>
 
 namespace audio {
-
-class SetClock final : public basic::Clock {
-public:
-    basic::CalendarTime now() const override { return time; }
-
-    basic::CalendarTime time{2026, 11, 21, 9, 0, 0};
-};
 
 // The engine with what its owner cannot reach.
 class ReachableWave : public clsWave {
