@@ -93,6 +93,37 @@ class Client:
     def tabs(self):
         return [o['name'] for o in self._objects('page tab', showing=True)]
 
+    # Player
+
+    def double_click(self, row):
+        """On the date of a row, which is the first to show a text."""
+        x, y, width, height = self.desktop.reader().ask('cell_rect', where=self._list(), row=row, column=1)
+        window = self.desktop.wait_active(TITLE)
+        self.desktop.click(window.x + x + width // 2, window.y + y + height // 2, double=True)
+
+    def position(self):
+        """The player's percentage and what a screen reader says of it."""
+        sliders = self._objects('slider', '^Position$')
+        if len(sliders) != 1:
+            raise DesktopError(f'{len(sliders)} players instead of one')
+        value, least, greatest, spoken = self.desktop.reader().ask('value', where=sliders[0]['where'])
+        if (least, greatest) != (0, 100):
+            raise DesktopError(f'the player goes from {least} to {greatest}')
+        return value, spoken
+
+    def wait_position(self, at_least, seconds=20):
+        wait_until(lambda: self.position()[0] >= at_least, f'the player to reach {at_least} %', seconds)
+
+    def wait_silent(self, seconds=30):
+        wait_until(lambda: not self.position()[1], 'the message to end', seconds)
+
+    def press(self, button):
+        """A button of the status band by the name that is heard."""
+        found = self._objects('push button', button, showing=True)
+        if len(found) != 1:
+            raise DesktopError(f'{len(found)} buttons {button!r} instead of one')
+        self.desktop.click_object(found[0], self.window())
+
     # Popup
 
     def popup_text(self):

@@ -5,7 +5,8 @@ from gi.repository import Gio, GLib
 
 from answering import run
 
-ACCESSIBLE, COMPONENT, TABLE = (f'org.a11y.atspi.{name}' for name in ('Accessible', 'Component', 'Table'))
+ACCESSIBLE, COMPONENT, TABLE, VALUE = (f'org.a11y.atspi.{name}'
+                                       for name in ('Accessible', 'Component', 'Table', 'Value'))
 REGISTRY, ROOT = 'org.a11y.atspi.Registry', '/org/a11y/atspi/accessible/root'
 STATE_SHOWING, STATE_SELECTED, STATE_ENABLED = 25, 23, 8
 SCREEN_COORDINATES = 0
@@ -105,9 +106,21 @@ class Reader:
         arguments = GLib.Variant('(ss)', (TABLE, name))
         return self._call(where, 'org.freedesktop.DBus.Properties', 'Get', arguments)[0]
 
+    def do_cell_rect(self, where, row, column):
+        return self.do_rect(self._cell_at(where, row, column))
+
+    def do_value(self, where):
+        """(value, least, greatest) of a slider, and what is spoken of it."""
+        numbers = [self._call(where, 'org.freedesktop.DBus.Properties', 'Get',
+                              GLib.Variant('(ss)', (VALUE, name)))[0]
+                   for name in ('CurrentValue', 'MinimumValue', 'MaximumValue')]
+        return [*numbers, self._property(where, 'Description')]
+
+    def _cell_at(self, where, row, column):
+        return self._call(where, TABLE, 'GetAccessibleAt', GLib.Variant('(ii)', (row, column)))[0]
+
     def _cell(self, where, row, column):
-        cell = self._call(where, TABLE, 'GetAccessibleAt', GLib.Variant('(ii)', (row, column)))[0]
-        return self._property(cell, 'Name')
+        return self._property(self._cell_at(where, row, column), 'Name')
 
 
 run(Reader())

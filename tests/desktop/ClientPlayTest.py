@@ -1,0 +1,145 @@
+# SPDX-FileCopyrightText: 2026 The qmClient authors
+# SPDX-License-Identifier: GPL-3.0-or-later
+"""The real client plays messages of the demo share; what the device plays is recorded.
+
+Pictures of the window while a message plays are left in pictures/player/ beside the programs' folder.
+"""
+import sys
+import unittest
+
+sys.dont_write_bytecode = True
+from client import CLOSE, Client  # noqa: E402
+from desktop.sound import RATE, SoundServer, likeness, message  # noqa: E402
+from scene import SceneTest, run  # noqa: E402
+from site_folder import BIN, mailbox_folder, write_settings  # noqa: E402
+
+PICTURES = BIN.parent / 'pictures' / 'player'
+REGISTRY = BIN.parent / 'gst-registry.bin'  # what plug-ins there are is looked up once, not by each client
+
+
+class PlayTest(SceneTest):
+    no_device = 'No audio device present on this system. Cannot play!'
+    not_found = 'The audio file could not be found.'
+    language = 'en'
+
+    def setUp(self):
+        super().setUp()
+        self.desktop.env['GST_REGISTRY'] = str(REGISTRY)
+        self.sound = SoundServer(self.desktop)
+
+    def start_client(self, sound=True):
+        """Over one mailbox of the demo share, its window shown."""
+        if sound:
+            self.sound.start()
+        run('qmdemo', self.share, '--once')
+        self.number = min(int(entry.name) for entry in (self.share / 'MBX').iterdir())
+        write_settings(self.desktop.env['XDG_CONFIG_HOME'], self.share, {self.number: 'Reception'}, 600)
+        client = Client(self.desktop)
+        client.open()
+        self.calls = self.calls_by_mdbtools(self.number)[::-1]
+        client.wait_rows(len(self.calls))
+        return client
+
+    def row_of_message(self, seconds=(5, 12)):
+        """The first row of the list whose message has about so many seconds, and its file."""
+        for row, call in enumerate(self.calls):
+            if seconds[0] <= int(call['MessageLength']) <= seconds[1]:
+                return row, mailbox_folder(self.share, self.number) / f'{call["CallID"]}.wav'
+        self.fail('no such message in the demo share')
+
+    def picture(self, name):
+        PICTURES.mkdir(parents=True, exist_ok=True)
+        self.desktop.screenshot(PICTURES / f'{self.language}-{name}.png')
+
+    def message_box(self, text):
+        """Waits for a message box and answers it."""
+        self.desktop.wait_for(lambda: self.desktop.objects(self.client.process, 'label', f'^{text}$'),
+                              f'the message {text!r}', 20)
+        self.picture('message')
+        self.desktop.wait_for(lambda: self.desktop.windows.active() and
+                              self.desktop.windows.active().pid == self.client.process.pid, 'the focus')
+        self.desktop.key('Return')
+        self.desktop.wait_for(lambda: not self.desktop.objects(self.client.process, 'label', f'^{text}$'),
+                              'the message to close')
+
+    def test_double_click_plays_a_message_whole_and_the_marker_moves(self):
+        self.client = self.start_client()
+        row, file = self.row_of_message()
+        recording = self.sound.record()
+        self.client.double_click(row)
+        spoken = []
+        for moment in (10, 45, 80):
+            self.client.wait_position(moment)
+            self.picture(f'{moment}-percent')
+            spoken.append(self.client.position()[1])
+        self.client.wait_silent()
+        self.picture('ended')
+        sound, wanted = recording.finish(), message(file)
+        self.assertAlmostEqual(len(sound) / RATE, len(wanted) / RATE, delta=0.03)
+        self.assertGreater(likeness(sound, wanted), 0.99)
+        self.assertEqual(len(set(spoken)), 3)
+        self.assertEqual(self.sound.streams(), 0)
+
+    def test_pause_keeps_the_place_and_stop_ends(self):
+        self.client = self.start_client()
+        row, _ = self.row_of_message()
+        self.client.double_click(row)
+        self.client.wait_position(10)
+        self.client.press('^Pause$')
+        paused = self.desktop.wait_for(self.place_that_stays, 'the player to pause')
+        self.client.double_click(row)
+        self.client.wait_position(paused + 5)
+        self.client.press('^(Stop|Anhalten)$')
+        self.client.wait_silent(5)
+        self.desktop.wait_for(lambda: self.sound.streams() == 0, 'the device to be let go')
+
+    def place_that_stays(self):
+        """The position, once two looks with a picture in between find the same."""
+        before = self.client.position()
+        self.picture('paused')
+        return before[0] if before == self.client.position() else None
+
+    def test_a_missing_message_is_said(self):
+        self.client = self.start_client()
+        row, file = self.row_of_message()
+        file.unlink()
+        self.client.double_click(row)
+        self.message_box(self.not_found)
+        self.assertEqual(self.client.position()[1], '')
+
+    def test_without_a_sound_server_it_is_said_once_and_the_next_play_works(self):
+        self.client = self.start_client(sound=False)
+        row, file = self.row_of_message()
+        self.client.double_click(row)
+        self.message_box(self.no_device)
+        self.client_answers_that_it_failed()
+        self.sound.start()
+        recording = self.sound.record()
+        self.client.double_click(row)
+        self.client.wait_position(10)
+        self.client.wait_silent()
+        self.assertGreater(likeness(recording.finish(), message(file)), 0.99)
+
+    def client_answers_that_it_failed(self):
+        self.message_box('(Error playing audio file!|Fehler beim Abspielen der Audio-Datei.)')
+
+    def test_ends_by_the_tray_while_a_message_plays(self):
+        self.client = self.start_client()
+        row, _ = self.row_of_message()
+        self.client.double_click(row)
+        self.client.wait_position(5)
+        self.client.hide()
+        self.client.choose(CLOSE)
+        self.assertEqual(self.client.process.wait(5), 0)
+        self.desktop.wait_for(lambda: self.sound.streams() == 0, 'the device to be let go')
+
+
+class GermanPlayTest(PlayTest):
+    lang = 'de_DE.UTF-8'
+    no_device = 'Auf diesem System ist kein Audiogerät vorhanden. Die Nachricht kann nicht abgespielt werden!'
+    not_found = 'Die Audio-Datei konnte nicht gefunden werden.'
+    language = 'de'
+
+
+if __name__ == '__main__':
+    unittest.main(verbosity=2)
