@@ -157,7 +157,9 @@ const Provocation kDraw{"ctlAudio", "Draw", kOutOfMemory, [](Trial& trial) -> Ef
                             ctlAudio& player = world.makePlaying();
                             world.breakSurface("Cls");
                             player.Draw();
-                            return {world.drew("Cls", 2), world.drew("DrawEdge")};
+                            const Effect effect{world.drew("Cls", 2), world.drew("DrawEdge")};
+                            world.surface->fails.clear(); // its end draws, too
+                            return effect;
                         }};
 
 const Provocation kTrackClick{"ctlAudio", "picTop_Click", kDeviceIoError, [](Trial& trial) -> Effect {
