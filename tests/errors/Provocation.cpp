@@ -31,8 +31,10 @@ ErrorAction Trial::ReportError(std::string_view module, std::string_view procedu
     return reports.size() < kPatience ? ErrorAction::Retry : ErrorAction::Abort;
 }
 
-Provocation::Provocation(std::string aModule, std::string aProcedure, std::int32_t aNumber, Run aRun)
-    : module(std::move(aModule)), procedure(std::move(aProcedure)), number(aNumber), run(std::move(aRun)) {
+Provocation::Provocation(std::string moduleName, std::string procedureName, std::int32_t errorNumber,
+                         Run howToRun)
+    : module(std::move(moduleName)), procedure(std::move(procedureName)), number(errorNumber),
+      run(std::move(howToRun)) {
     provocations().push_back(*this);
 }
 
@@ -40,8 +42,8 @@ const std::vector<Provocation>& Provocation::all() {
     return provocations();
 }
 
-CannotFail::CannotFail(std::string aModule, std::string aProcedure, std::string aWhy)
-    : module(std::move(aModule)), procedure(std::move(aProcedure)), why(std::move(aWhy)) {
+CannotFail::CannotFail(std::string moduleName, std::string procedureName, std::string aWhy)
+    : module(std::move(moduleName)), procedure(std::move(procedureName)), why(std::move(aWhy)) {
     exceptions().push_back(*this);
 }
 

@@ -100,7 +100,7 @@ TEST(MailMessage, ABodyArrivesByteForByte) {
 }
 
 TEST(MailMessage, LineEndsOfABodyBecomeThoseOfMail) {
-    EXPECT_EQ(withMailLineEnds("a\nb\rc\r\nd\r\r\n"), "a\r\nb\r\nc\r\nd\r\n\r\n");
+    EXPECT_EQ(withMailLineEnds("a\nb\rc\r\n4\r\r\n"), "a\r\nb\r\nc\r\n4\r\n\r\n");
     EXPECT_EQ(withMailLineEnds(std::string("a\0b", 3)), "ab");
 }
 
