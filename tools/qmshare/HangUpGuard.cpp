@@ -17,7 +17,7 @@ namespace {
 void endIfAlone(int) {
     pollfd channel{share::smb::kChannelDescriptor, POLLRDHUP, 0};
     if (::poll(&channel, 1, 0) > 0 && (channel.revents & (POLLHUP | POLLRDHUP | POLLERR)) != 0)
-        ::_exit(0);
+        ::_exit(share::smb::kEndedWithClient);
 }
 
 } // namespace

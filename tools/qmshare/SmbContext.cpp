@@ -4,8 +4,13 @@
 
 #include "platform/basic/RuntimeError.h"
 #include "platform/basic/TextCompare.h"
+#include "platform/share/FileDescriptor.h"
+
+#include <stdlib.h> // mkstemp is no part of <cstdlib>
+#include <unistd.h>
 
 #include <algorithm>
+#include <filesystem>
 #include <utility>
 
 namespace qmshare {
@@ -38,6 +43,8 @@ SmbContext::SmbContext(std::uint16_t port, share::smb::Credentials credentials)
     setOptions(port);
     if (::smbc_init_context(get()) == nullptr)
         throw basic::RuntimeError(basic::kInternalError, "the SMB library cannot be set up");
+    if (!m_credentials.isAnybody())
+        refuseToBeAGuest();
     // After the initialisation, which reads the machine's configuration.
     ::smbc_setOptionProtocols(get(), "SMB2_10", "SMB3_11");
 }
@@ -59,6 +66,21 @@ void SmbContext::setCallbacks() {
     m_remove = ::smbc_getFunctionRemoveCachedServer(get());
     ::smbc_setFunctionAddCachedServer(get(), connected);
     ::smbc_setFunctionRemoveCachedServer(get(), disconnected);
+}
+
+// A server may take an unknown user or a wrong password for a guest without a word. Guests cannot sign, so
+// who insists on signing is never one. The library takes this from a configuration file only.
+void SmbContext::refuseToBeAGuest() {
+    std::string path = (std::filesystem::temp_directory_path() / "qmshare-XXXXXX").string();
+    const share::FileDescriptor file(::mkstemp(path.data()));
+    constexpr std::string_view kLines = "[global]\nclient signing = required\n";
+    const bool isWritten = file.isOpen() && ::write(file.get(), kLines.data(), kLines.size()) ==
+                                                static_cast<ssize_t>(kLines.size());
+    const bool isTaken = isWritten && ::smbc_setConfiguration(get(), path.c_str()) == 0;
+    if (file.isOpen())
+        ::unlink(path.c_str());
+    if (!isTaken)
+        throw basic::RuntimeError(basic::kInternalError, "the SMB library takes no configuration");
 }
 
 bool SmbContext::isConnected(const std::string& share) const {

@@ -50,6 +50,7 @@ private:
     static void logged(void* self, int level, const char* message);
     void setOptions(std::uint16_t port);
     void setCallbacks();
+    void refuseToBeAGuest();
 
     share::smb::Credentials m_credentials;
     std::map<SMBCSRV*, std::string> m_connections; // share names

@@ -19,6 +19,8 @@ inline constexpr std::size_t kMaximumDataBytes = 64 * 1024;
 inline constexpr std::size_t kMaximumPacketBytes = kMaximumDataBytes + kMaximumPathBytes + 64;
 // Where qmshare finds its end of the connection.
 inline constexpr int kChannelDescriptor = 3;
+// qmshare's exit code when the client's end went away in the middle of something.
+inline constexpr int kEndedWithClient = 3;
 
 enum class Verb : std::uint8_t {
     LogOn = 1, // path: the server's host name, length: port, data: LogOn record; touches no network

@@ -12,6 +12,11 @@ using namespace std::chrono_literals;
 
 constexpr const char* kWrong = "NT_STATUS_WRONG_PASSWORD";
 
+// The share's folder; whether the server takes guests at all is its configuration.
+void letGuestsIn(const SambaServer& samba) {
+    std::filesystem::permissions(samba.share().path(), std::filesystem::perms::all);
+}
+
 class SmbPasswordTest : public ::testing::TestWithParam<const char*> {};
 
 TEST_P(SmbPasswordTest, IsTakenAsItIs) {
@@ -83,6 +88,7 @@ TEST(SmbLogOn, NeverBecomesAGuestByAWrongPassword) {
     for (const char* how : {"Bad Password", "Bad User"}) {
         SambaServer samba({.global = std::string("guest account = nobody\nmap to guest = ") + how,
                            .ofShare = "guest ok = yes"});
+        letGuestsIn(samba);
         SmbClient client(samba.port());
         client.password = "wrong";
         EXPECT_FALSE(client.files().FolderExists(onShare(""))) << how;
@@ -92,6 +98,7 @@ TEST(SmbLogOn, NeverBecomesAGuestByAWrongPassword) {
 TEST(SmbLogOn, NeverBecomesAGuestByAnUnknownName) {
     SambaServer samba(
         {.global = "guest account = nobody\nmap to guest = Bad User", .ofShare = "guest ok = yes"});
+    letGuestsIn(samba);
     SmbClient client(samba.port());
     client.user = "nobodyknows";
     EXPECT_FALSE(client.files().FolderExists(onShare("")));
@@ -100,7 +107,7 @@ TEST(SmbLogOn, NeverBecomesAGuestByAnUnknownName) {
 TEST(SmbLogOn, IsAnonymousWhereNobodyIsNamed) {
     SambaServer samba(
         {.global = "guest account = nobody\nmap to guest = Bad User", .ofShare = "guest ok = yes"});
-    std::filesystem::permissions(samba.share().path(), std::filesystem::perms::all);
+    letGuestsIn(samba);
     SmbClient client(samba.port());
     client.user = client.password = "";
     EXPECT_TRUE(client.files().FolderExists(onShare("")));
