@@ -9,6 +9,7 @@ namespace data {
 inline constexpr const char* kAllCalls =
     "SELECT *, MessageLength & 's' AS MessageLengthS FROM CallLog ORDER BY ID DESC";
 inline constexpr const char* kCountCalls = "SELECT COUNT(*) FROM CallLog";
+inline constexpr const char* kDeleteCalls = "DELETE FROM CallLog";
 
 inline constexpr const char* kCallID = "CallID";
 inline constexpr const char* kCallDate = "CallDate";

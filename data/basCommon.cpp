@@ -72,4 +72,8 @@ std::string messageFile(std::string_view qmPath, std::int32_t mailboxID, std::st
     return mailboxFolder(qmPath, mailboxID).append("\\").append(callID).append(".wav");
 }
 
+std::string messageFiles(std::string_view qmPath, std::int32_t mailboxID) {
+    return mailboxFolder(qmPath, mailboxID).append("\\*.wav");
+}
+
 } // namespace data

@@ -45,5 +45,7 @@ std::string connectionString(const std::string& database);
 std::string mailboxFolder(std::string_view qmPath, std::int32_t mailboxID);
 std::string mailboxDatabase(std::string_view qmPath, std::int32_t mailboxID);
 std::string messageFile(std::string_view qmPath, std::int32_t mailboxID, std::string_view callID);
+// The pattern of all sounds of a mailbox.
+std::string messageFiles(std::string_view qmPath, std::int32_t mailboxID);
 
 } // namespace data

@@ -27,9 +27,13 @@ public:
 
     forms::MessageBoxResult show(const QString& text, std::int32_t style, const QString& title) override {
         boxes.push_back({text.toStdString(), style, title.toStdString()});
-        return forms::MessageBoxResult::Ok;
+        if (onShow)
+            onShow();
+        return answer;
     }
 
+    forms::MessageBoxResult answer = forms::MessageBoxResult::Ok;
+    std::function<void()> onShow;
     std::vector<Box> boxes;
 };
 
