@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "app/DeleteAll.h"
 
+#include "app/Keys.h"
 #include "data/CallLog.h"
 #include "platform/basic/Conversion.h"
 #include "platform/basic/RuntimeError.h"
@@ -16,8 +17,7 @@ namespace {
 
 using resources::LoadLocalString;
 
-constexpr std::size_t kTabKeyPrefix = 3; // "KEY", then the mailbox's number
-constexpr std::chrono::milliseconds kPause{500};
+constexpr std::int32_t kPauseMs = 500;
 
 // A statement on no connection at all is the platform's error for an object that is not set.
 jet::Connection& required(const std::shared_ptr<jet::Connection>& connection) {
@@ -39,7 +39,7 @@ void DeleteAll::operator()(errors::Procedure& proc) const {
     if (emptyLog(proc, *asked, *config))
         deleteMessages(*asked, config->ServerName);
     proc.step([] { forms::doEvents(); });
-    proc.step([&] { m_parts.pauseWithEvents(kPause); });
+    proc.step([&] { m_parts.pauseWithEvents(kPauseMs); });
     proc.step([] { forms::doEvents(); });
     proc.step([&] { m_parts.main.LoadList(); });
 }
@@ -48,7 +48,7 @@ std::optional<std::int32_t> DeleteAll::selectedMailbox() const {
     const auto tab = m_parts.tabStrip.SelectedItem();
     if (!tab)
         return std::nullopt;
-    return basic::CLng(std::string_view(tab->Key).substr(kTabKeyPrefix));
+    return basic::CLng(withoutPrefix(tab->Key, kTabKeyPrefix));
 }
 
 // Nothing when the configuration is gone or has none.

@@ -16,7 +16,6 @@
 #include "platform/forms/TabStrip.h"
 #include "platform/share/FileSystemObject.h"
 
-#include <chrono>
 #include <cstdint>
 #include <functional>
 #include <optional>
@@ -34,7 +33,7 @@ public:
         MainState& state;
         MainProcedures& main;
         std::function<void()> stopPlay; // of the player
-        std::function<void(std::chrono::milliseconds)> pauseWithEvents;
+        std::function<void(std::int32_t milliseconds)> pauseWithEvents;
     };
 
     explicit DeleteAll(Parts parts) : m_parts(std::move(parts)) {}

@@ -77,6 +77,9 @@ frmMain::frmMain(const MainServices& services)
                      m_state, *this}),
       m_commands(services.errorHandler),
       m_playMessage({services.common, services.messageBoxes, m_lsCalls, m_TabStrip, m_state, m_ctlAudio}),
+      m_deleteAll({services.common, services.files, services.messageBoxes, m_TabStrip, m_state, *this,
+                   [this] { m_ctlAudio.StopPlay(); },
+                   [this](std::int32_t ms) { m_services.player.wait.PauseWithEvents(ms); }}),
       m_trayEvents({services.errorHandler, m_mTimer, m_state, *this}),
       m_listEvents({services.errorHandler, m_lsCalls, m_TabStrip, m_ab, m_state, *this}),
       m_messages(services.errorHandler, m_lsCalls, m_TabStrip), m_ctlAudio(services.player) {
@@ -111,6 +114,7 @@ void frmMain::addCommands() {
     m_commands.add("miECopy", [this] {
         data::ListToClipBoard(m_services.errorHandler, m_lsCalls, m_services.clipboard);
     });
+    m_commands.add("miEClear", [this](errors::Procedure& proc) { m_deleteAll(proc); });
     m_commands.add("miESelectAll", [this] { selectAll(); });
 }
 

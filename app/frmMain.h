@@ -9,6 +9,7 @@
 #include "app/ButtonStates.h"
 #include "app/CallList.h"
 #include "app/Commands.h"
+#include "app/DeleteAll.h"
 #include "app/ListEvents.h"
 #include "app/MailboxData.h"
 #include "app/MainProcedures.h"
@@ -110,6 +111,7 @@ private:
     MailboxData m_mailboxData;
     Commands m_commands;
     PlayMessage m_playMessage;
+    DeleteAll m_deleteAll;
     TrayEvents m_trayEvents;
     ListEvents m_listEvents;
     WindowMessages m_messages;

@@ -33,7 +33,7 @@ protected:
                        if (onStop)
                            onStop();
                    },
-                   [this](std::chrono::milliseconds time) { pauses.push_back(time.count()); }})(proc);
+                   [this](std::int32_t milliseconds) { pauses.push_back(milliseconds); }})(proc);
     }
 
     std::size_t callsIn(int id) {
@@ -57,7 +57,7 @@ protected:
     data::PreparedAnswers reporter;
     int stops = 0;
     std::function<void()> onStop;
-    std::vector<long> pauses;
+    std::vector<std::int32_t> pauses;
 };
 
 TEST_F(DeleteAllTest, NoMailboxConfiguredShowsNoQuestion) {
@@ -151,7 +151,7 @@ TEST_F(DeleteAllTest, PausesThenReloadsTheList) {
     loadTwoMailboxes();
     ASSERT_EQ(column(0).size(), 3U);
     run();
-    EXPECT_EQ(pauses, std::vector<long>{500});
+    EXPECT_EQ(pauses, std::vector<std::int32_t>{500});
     EXPECT_TRUE(column(0).empty());
 }
 

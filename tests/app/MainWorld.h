@@ -105,7 +105,7 @@ protected:
     registry::Registry registry{registry::RegistryPaths{folder.path("registry.reg"), {}}, systemCalls};
     share::LocalFileSystemObject files{share::ShareResolver(
         [this](std::string_view server) { return shareOf(server); }, [] { return std::string(); })};
-    jet::Engine engine{files, [](int) {}};
+    jet::Engine engine{files, [](int) {}, {.tries = 2, .sleep = [](std::chrono::milliseconds) {}}};
     data::basCommon common{reportTo, files, [this] { return std::make_shared<jet::Connection>(engine); }};
     audio::RecordedSound sound;
     audio::SetClock clock;
