@@ -5,6 +5,7 @@
 #include "app/MessageFiles.h"
 #include "app/OutsideEvents.h"
 #include "data/ShareMappings.h"
+#include "platform/basic/RuntimeError.h"
 #include "platform/forms/Text.h"
 #include "platform/forms/UserLocale.h"
 #include "platform/jet/Connection.h"
@@ -61,7 +62,7 @@ Program::Program(Application& application, SingleInstance& instance)
       m_registry(registry::pathsFromEnvironment(), m_systemCalls),
       m_smbServers(smbSurroundings(), smbAddresses()), m_folders(resolver()),
       m_servers(m_smbServers, m_waiter), m_files(resolver(), m_folders, m_servers),
-      m_countsAhead(m_smbServers, resolver()), m_engine(m_files),
+      m_countsAhead(m_smbServers, resolver()), m_engine(m_files, jet::Engine::sleepBriefly, sharingWait()),
       m_common(m_errorHandler, m_files, [this] { return std::make_shared<jet::Connection>(m_engine); }),
       m_values(m_registry, m_messageBoxes),
       m_sound(messageFiles(registry::pathsFromEnvironment(), smbSurroundings()), m_waiter),
@@ -70,6 +71,15 @@ Program::Program(Application& application, SingleInstance& instance)
       m_main(mainServices()) {
     connectEvents(instance);
     m_application.reportTo(&m_errorHandler);
+}
+
+// While others are in a database, painting goes on; a program that ends waits for nobody.
+jet::SharingWait Program::sharingWait() {
+    return {.sleep = [this](std::chrono::milliseconds time) {
+        if (m_waiter.isEnded())
+            throw basic::RuntimeError(basic::kProviderFailure);
+        m_waiter.pass(time);
+    }};
 }
 
 share::ShareResolver Program::resolver() {

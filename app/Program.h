@@ -52,6 +52,7 @@ private:
     share::smb::SmbServer::Surroundings smbSurroundings();
     share::smb::SmbServers::Addresses smbAddresses();
     share::ShareResolver resolver();
+    jet::SharingWait sharingWait();
     ShareAccess shareAccess();
     MainServices mainServices();
     audio::PlayerServices playerServices();

@@ -81,25 +81,25 @@ TEST_F(DeleteAllTest, AsksWithItsTextsAndOkIsNotTheDefault) {
 
 TEST_F(DeleteAllTest, CancelChangesNothing) {
     loadTwoMailboxes();
-    const std::string sound = makeSound(12, "C1.wav");
+    const std::string message = makeSound(12, "C1.wav");
     messageBoxes.answer = forms::MessageBoxResult::Cancel;
     run();
     EXPECT_EQ(callsIn(12), 3U);
-    EXPECT_TRUE(std::filesystem::exists(sound));
+    EXPECT_TRUE(std::filesystem::exists(message));
     EXPECT_EQ(stops, 0);
     EXPECT_TRUE(pauses.empty());
 }
 
 TEST_F(DeleteAllTest, EmptiesTheSelectedMailboxAndDeletesItsMessages) {
     loadTwoMailboxes();
-    const std::string sound = makeSound(12, "C1.wav");
+    const std::string message = makeSound(12, "C1.wav");
     const std::string loud = makeSound(12, "C2.WAV");
     const std::string note = makeSound(12, "C1.wav.txt");
     const std::string other = makeSound(15, "C1.wav");
     run();
     EXPECT_EQ(callsIn(12), 0U);
     EXPECT_EQ(callsIn(15), 3U);
-    EXPECT_FALSE(std::filesystem::exists(sound));
+    EXPECT_FALSE(std::filesystem::exists(message));
     EXPECT_FALSE(std::filesystem::exists(loud));
     EXPECT_TRUE(std::filesystem::exists(note));
     EXPECT_TRUE(std::filesystem::exists(other));
@@ -111,10 +111,10 @@ TEST_F(DeleteAllTest, SingleMailboxKeepsItsMessageFiles) {
     configure({12});
     mailbox(12).append(3);
     load();
-    const std::string sound = makeSound(12, "C1.wav");
+    const std::string message = makeSound(12, "C1.wav");
     run();
     EXPECT_EQ(callsIn(12), 0U);
-    EXPECT_TRUE(std::filesystem::exists(sound));
+    EXPECT_TRUE(std::filesystem::exists(message));
 }
 
 TEST_F(DeleteAllTest, RowsGoEvenWhenAMessageFileCannotAndNothingIsReported) {
@@ -138,10 +138,10 @@ TEST_F(DeleteAllTest, NoMessageFileAtAllIsNotReported) {
 
 TEST_F(DeleteAllTest, StopsTheMessageThatPlaysBeforeAnythingGoes) {
     loadTwoMailboxes();
-    const std::string sound = makeSound(12, "C1.wav");
+    const std::string message = makeSound(12, "C1.wav");
     onStop = [&] {
         EXPECT_EQ(callsIn(12), 3U);
-        EXPECT_TRUE(std::filesystem::exists(sound));
+        EXPECT_TRUE(std::filesystem::exists(message));
     };
     run();
     EXPECT_EQ(stops, 1);
@@ -157,7 +157,7 @@ TEST_F(DeleteAllTest, PausesThenReloadsTheList) {
 
 TEST_F(DeleteAllTest, SomebodyInTheDatabaseIsReportedAndIgnoringKeepsTheMessages) {
     loadTwoMailboxes();
-    const std::string sound = makeSound(12, "C1.wav");
+    const std::string message = makeSound(12, "C1.wav");
     const auto other = somebodyIn(12);
     reporter.answers = {errors::ErrorAction::Ignore};
     run();
@@ -166,20 +166,20 @@ TEST_F(DeleteAllTest, SomebodyInTheDatabaseIsReportedAndIgnoringKeepsTheMessages
     EXPECT_EQ(reporter.reports[0].procedure, "ab_ToolClick");
     EXPECT_EQ(reporter.reports[0].number, basic::kProviderFailure);
     EXPECT_EQ(callsIn(12), 3U);
-    EXPECT_TRUE(std::filesystem::exists(sound));
+    EXPECT_TRUE(std::filesystem::exists(message));
     EXPECT_EQ(pauses.size(), 1U) << "the command goes on with its next step";
 }
 
 TEST_F(DeleteAllTest, TryAgainCarriesTheCommitOut) {
     loadTwoMailboxes();
-    const std::string sound = makeSound(12, "C1.wav");
+    const std::string message = makeSound(12, "C1.wav");
     auto other = somebodyIn(12);
     reporter.answers = {errors::ErrorAction::Retry};
     reporter.onReport = [&] { other.reset(); };
     run();
     EXPECT_EQ(reporter.reports.size(), 1U);
     EXPECT_EQ(callsIn(12), 0U);
-    EXPECT_FALSE(std::filesystem::exists(sound));
+    EXPECT_FALSE(std::filesystem::exists(message));
 }
 
 TEST_F(DeleteAllTest, AbortEndsTheCommand) {
@@ -193,25 +193,25 @@ TEST_F(DeleteAllTest, AbortEndsTheCommand) {
 
 TEST_F(DeleteAllTest, MailboxWithoutDatabaseIsError91) {
     loadTwoMailboxes();
-    const std::string sound = makeSound(12, "C1.wav");
+    const std::string message = makeSound(12, "C1.wav");
     std::filesystem::remove(place(12, "qmLog.mdb"));
     reporter.answers = {errors::ErrorAction::Ignore};
     run();
     ASSERT_EQ(reporter.reports.size(), 1U);
     EXPECT_EQ(reporter.reports[0].number, basic::kObjectNotSet);
-    EXPECT_TRUE(std::filesystem::exists(sound));
+    EXPECT_TRUE(std::filesystem::exists(message));
 }
 
 TEST_F(DeleteAllTest, MailboxThatBecameCurrentDuringTheQuestionIsNotTouched) {
     loadTwoMailboxes();
-    const std::string sound = makeSound(15, "C1.wav");
+    const std::string message = makeSound(15, "C1.wav");
     messageBoxes.onShow = [&] {
         window->findChild<forms::TabStrip*>(QStringLiteral("TabStrip"))->SetSelectedItem(2);
     };
     run();
     EXPECT_EQ(callsIn(12), 3U);
     EXPECT_EQ(callsIn(15), 3U);
-    EXPECT_TRUE(std::filesystem::exists(sound));
+    EXPECT_TRUE(std::filesystem::exists(message));
 }
 
 TEST_F(DeleteAllTest, ToolRunsTheCommand) {
