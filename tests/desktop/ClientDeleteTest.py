@@ -1,6 +1,6 @@
 # SPDX-FileCopyrightText: 2026 The qmClient authors
 # SPDX-License-Identifier: GPL-3.0-or-later
-"""The real client deletes all entries of a mailbox on a demo share, by keyboard and mouse.
+"""The real client deletes all entries of a mailbox on a demo share, by keyboard and mouse; also by SMB alone.
 
 Pictures of the question and of the emptied list are left in pictures/delete/ beside the programs' folder.
 """
@@ -9,6 +9,7 @@ import unittest
 
 sys.dont_write_bytecode = True
 from client import TITLE, Client  # noqa: E402
+from samba import Samba  # noqa: E402
 from scene import FIRST, SECOND, SceneTest  # noqa: E402
 from site_folder import BIN, database, mailbox_folder  # noqa: E402
 
@@ -92,6 +93,17 @@ class GermanDeleteTest(DeleteTest):
     language = 'de'
     menu = ('alt+b', 'l')
     question = 'Sind Sie sicher, dass Sie alle Einträge löschen möchten?'
+
+
+class SmbDeleteTest(DeleteTest):
+    language = 'smb'
+
+    def setUp(self):
+        super().setUp()
+        self.samba = Samba(self.desktop, self.share)
+
+    def write_settings(self, numbers, **settings):
+        super().write_settings(numbers, share=self.samba.address, **settings)
 
 
 if __name__ == '__main__':
