@@ -57,12 +57,16 @@ TEST_F(ReentryTest, PollAskedForMeanwhileRunsAfterwards) {
 
 TEST_F(ReentryTest, PollEndsWithoutAnAnnouncementWhenEverythingIsBuiltAnewMeanwhile) {
     mailbox(12).append(1);
-    meanwhile([this] { window->InitData(); });
+    // What is logged after the building is old to the first poll that follows it.
+    meanwhile([this] {
+        window->InitData();
+        mailbox(12).append(2);
+    });
     tick();
     EXPECT_TRUE(wasRun);
     EXPECT_EQ(window->state().newCallTotal, 0);
     EXPECT_EQ(popup(), nullptr);
-    EXPECT_EQ(window->state().config->Mailboxes.at(1)->LastCallCount, 3);
+    EXPECT_EQ(window->state().config->Mailboxes.at(1)->LastCallCount, 5);
     EXPECT_FALSE(window->state().firstPoll);
 }
 
