@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The qmClient authors
 // SPDX-License-Identifier: GPL-3.0-or-later
-// The reader of messages over any bytes, the decoder behind it included: it answers samples that can be played
-// or a RuntimeError of the media graph.
+// The reader of messages over any bytes, the decoder behind it included: it answers samples that can be
+// played or a RuntimeError of the media graph.
 
 #include "platform/basic/RuntimeError.h"
 #include "platform/mediagraph/MessageDecoder.h"
@@ -13,7 +13,8 @@
 namespace {
 
 bool isOfTheGraph(std::int32_t number) {
-    return number == basic::kMediaBadFormat || number == basic::kMediaUnsupported || number == basic::kOutOfMemory;
+    return number == basic::kMediaBadFormat || number == basic::kMediaUnsupported ||
+           number == basic::kOutOfMemory;
 }
 
 } // namespace
