@@ -265,6 +265,7 @@ void frmMain::unload(UnloadMode mode) {
     ++m_state.generation;
     Form_Unload();
     hide();
+    answerModalDialog(); // the start-up may wait for one, before there is an event loop to quit
     Q_EMIT unloaded();
 }
 
