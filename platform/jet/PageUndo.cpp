@@ -2,8 +2,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "platform/jet/PageUndo.h"
 
-#include <ranges>
-
 namespace jet {
 namespace {
 
@@ -23,8 +21,8 @@ PageUndo::PageUndo(share::File& file, const std::vector<PageNumber>& pages) : m_
 
 void PageUndo::restore() noexcept {
     try {
-        for (const auto& [page, bytes] : m_pages | std::views::reverse)
-            m_file.write(offsetOf(page), *bytes);
+        for (auto saved = m_pages.rbegin(); saved != m_pages.rend(); ++saved)
+            m_file.write(offsetOf(saved->first), *saved->second);
         m_file.sync();
     } catch (...) { // NOLINT(bugprone-empty-catch): see the header
     }

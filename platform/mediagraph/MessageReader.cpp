@@ -14,7 +14,7 @@ namespace {
 using Bytes = std::vector<std::byte>;
 
 // Small enough for progress to be seen on a slow line.
-constexpr std::size_t kPiece = 64 * 1024;
+constexpr std::size_t kPiece = std::size_t{64} * 1024;
 
 std::size_t sizeOf(share::File& file) {
     const std::uint64_t size = file.size();

@@ -20,7 +20,7 @@ namespace shell {
 namespace {
 
 // An argument may have 128 KiB, but what the mail program is started with in turn may have less.
-constexpr std::size_t kLongestUri = 30 * 1024;
+constexpr std::size_t kLongestUri = std::size_t{30} * 1024;
 
 std::string xdgEmail() {
     return findProgram("xdg-email");

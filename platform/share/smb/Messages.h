@@ -15,7 +15,7 @@ namespace share::smb {
 
 inline constexpr std::size_t kMaximumPathBytes = 4096;
 // Small enough that one piece comes through a slow line long before a request's deadline.
-inline constexpr std::size_t kMaximumDataBytes = 64 * 1024;
+inline constexpr std::size_t kMaximumDataBytes = std::size_t{64} * 1024;
 inline constexpr std::size_t kMaximumPacketBytes = kMaximumDataBytes + kMaximumPathBytes + 64;
 // Where qmshare finds its end of the connection.
 inline constexpr int kChannelDescriptor = 3;
