@@ -159,7 +159,8 @@ void SambaServer::resume() {
 }
 
 void SambaServer::signal(int number) const {
-    ::kill(-m_id, number);
+    if (m_id > 1)
+        ::kill(-m_id, number);
 }
 
 void SambaServer::cutConnections() {
