@@ -48,7 +48,8 @@ public:
 
     // Returns when both are gone, the helper's status; a helper that stays hangs the test.
     int killAndReap() const {
-        ::kill(m_client, SIGKILL);
+        if (m_client > 0)
+            ::kill(m_client, SIGKILL);
         while (::waitpid(m_client, nullptr, 0) < 0 && errno == EINTR) {
         }
         int status = 0;
