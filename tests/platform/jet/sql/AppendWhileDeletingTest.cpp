@@ -8,12 +8,13 @@
 namespace jet::test {
 namespace {
 
-constexpr int kRounds = 2000;
+constexpr int kRounds = 1000;
 
 TEST(AppendWhileDeleting, LosesNoCallAndShowsNoWrongCount) {
     SharedDatabase database(callLogDatabase(0));
     const std::string path(SharedDatabase::kPath);
-    const AppendingServer server([&] { return appendCalls(database.files, path, kRounds); });
+    const AppendingServer server(
+        [&](const Allowance& allowance) { return appendCalls(database.files, path, kRounds, allowance); });
     Engine engine(database.files, Engine::sleepBriefly, patience());
     const DeleteRounds rounds = deleteWhileAppending(engine, path, server);
     EXPECT_EQ(rounds.lastNumber, kRounds + 1) << "every call has had its number";

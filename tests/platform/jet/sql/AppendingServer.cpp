@@ -6,10 +6,14 @@
 #include "platform/jet/CommitWordWriter.h"
 #include "platform/jet/SoleAccess.h"
 
+#include <sys/eventfd.h>
+#include <sys/prctl.h>
 #include <sys/wait.h>
 #include <unistd.h>
 
+#include <csignal>
 #include <iostream>
+#include <system_error>
 #include <vector>
 
 namespace jet::test {
@@ -40,15 +44,22 @@ private:
     std::int32_t m_last = 0;
 };
 
-// False when the database could not be read for the moment: the server has it to itself all the time.
+constexpr std::uint64_t kCallsPerLook = 12;
+constexpr std::uint64_t kWithoutLimit = 1'000'000;
+
+// What a client may meet while another program keeps the database to itself, or writes all the time.
+bool meansBusy(const basic::RuntimeError& error) {
+    return error.number() == basic::kFileAlreadyOpen || error.number() == basic::kProviderFailure;
+}
+
+// False when the database could not be read for the moment.
 bool see(Connection& connection, const std::string& database, Observer& observer) {
     try {
         connection.Open("Provider=Microsoft.Jet.OLEDB.4.0;Data Source=" + database);
         observer.see(readNumbers(connection));
         return true;
     } catch (const basic::RuntimeError& error) {
-        EXPECT_TRUE(error.number() == basic::kFileAlreadyOpen || error.number() == basic::kProviderFailure)
-            << error.description();
+        EXPECT_TRUE(meansBusy(error)) << error.description();
         return false;
     }
 }
@@ -61,7 +72,7 @@ bool deleteAll(Connection& connection) {
         connection.CommitTrans();
         return true;
     } catch (const basic::RuntimeError& error) {
-        EXPECT_EQ(error.number(), basic::kFileAlreadyOpen) << error.description();
+        EXPECT_TRUE(meansBusy(error)) << error.description();
         connection.RollbackTrans();
         return false;
     }
@@ -73,10 +84,31 @@ SharingWait patience() {
     return {.tries = 5000, .sleep = [](std::chrono::milliseconds time) { SharingWait::sleepFor(time / 50); }};
 }
 
-int appendCalls(share::FileSystemObject& files, const std::string& database, int rounds) {
+Allowance::Allowance() : m_counter(::eventfd(0, EFD_SEMAPHORE)) {
+    if (m_counter < 0)
+        throw std::system_error(errno, std::generic_category(), "eventfd");
+}
+
+Allowance::~Allowance() {
+    ::close(m_counter);
+}
+
+void Allowance::add(std::uint64_t calls) const {
+    EXPECT_EQ(::eventfd_write(m_counter, calls), 0);
+}
+
+void Allowance::takeOne() const {
+    eventfd_t taken = 0;
+    if (::eventfd_read(m_counter, &taken) != 0)
+        throw std::system_error(errno, std::generic_category(), "eventfd");
+}
+
+int appendCalls(share::FileSystemObject& files, const std::string& database, int rounds,
+                const Allowance& allowance) {
     try {
         Engine engine(files, Engine::sleepBriefly, patience());
         for (int i = 0; i < rounds; ++i) {
+            allowance.takeOne();
             const auto access = engine.openAlone(database);
             addCall(access->file(), "W" + std::to_string(i), i % 40 == 0 ? 3000 : 10);
             advanceCommitWord(access->file(), access->user());
@@ -88,14 +120,18 @@ int appendCalls(share::FileSystemObject& files, const std::string& database, int
     }
 }
 
-AppendingServer::AppendingServer(const std::function<int()>& work) : m_child(::fork()) {
-    if (m_child == 0)
-        ::_exit(work());
+AppendingServer::AppendingServer(const std::function<int(const Allowance&)>& work) : m_child(::fork()) {
+    if (m_child != 0)
+        return;
+    ::prctl(PR_SET_PDEATHSIG, SIGKILL);
+    ::_exit(work(m_allowance));
 }
 
 AppendingServer::~AppendingServer() {
-    if (!m_hasEnded)
-        ::waitpid(m_child, nullptr, 0);
+    if (m_hasEnded)
+        return;
+    allow(kWithoutLimit);
+    ::waitpid(m_child, nullptr, 0);
 }
 
 bool AppendingServer::hasEnded() const {
@@ -112,6 +148,7 @@ DeleteRounds deleteWhileAppending(Engine& engine, const std::string& database,
     DeleteRounds rounds;
     Observer observer;
     while (!server.hasEnded()) {
+        server.allow(kCallsPerLook);
         Connection connection(engine);
         if (!see(connection, database, observer))
             continue;

@@ -12,6 +12,7 @@
 #include <gtest/gtest.h>
 #include <sys/types.h>
 
+#include <cstdint>
 #include <functional>
 #include <string>
 
@@ -20,21 +21,41 @@ namespace jet::test {
 // Waits as long as it takes, in short steps.
 SharingWait patience();
 
+// How many calls the server may append, shared by the two processes. Without it a server that writes all the
+// time leaves a slow client no moment to read in, and the test says more about the machine than about us.
+class Allowance {
+public:
+    Allowance();
+    ~Allowance();
+    Allowance(const Allowance&) = delete;
+    Allowance& operator=(const Allowance&) = delete;
+
+    void add(std::uint64_t calls) const;
+    // Waits until there is one more.
+    void takeOne() const;
+
+private:
+    int m_counter;
+};
+
 // Appends so many calls, each one with the database to itself; the exit code of a process.
-int appendCalls(share::FileSystemObject& files, const std::string& database, int rounds);
+int appendCalls(share::FileSystemObject& files, const std::string& database, int rounds,
+                const Allowance& allowance);
 
 class AppendingServer {
 public:
     // Runs `work` in a process of its own; it ends with the answer as exit code.
-    explicit AppendingServer(const std::function<int()>& work);
+    explicit AppendingServer(const std::function<int(const Allowance&)>& work);
     // Waits for the process.
     ~AppendingServer();
     AppendingServer(const AppendingServer&) = delete;
     AppendingServer& operator=(const AppendingServer&) = delete;
 
+    void allow(std::uint64_t calls) const { m_allowance.add(calls); }
     bool hasEnded() const;
 
 private:
+    Allowance m_allowance;
     pid_t m_child;
     mutable bool m_hasEnded = false;
 };

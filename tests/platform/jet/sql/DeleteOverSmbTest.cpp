@@ -87,9 +87,9 @@ TEST_F(DeleteOverSmb, SomebodyWhoHasTheFileOpenKeepsItWhole) {
 // The server's program and the client, each with a connection of its own to the same smbd.
 TEST_F(DeleteOverSmb, LosesNoCallThatIsAppendedMeanwhile) {
     setBytes(callLogDatabase(0));
-    const AppendingServer server([&] {
+    const AppendingServer server([&](const Allowance& allowance) {
         SmbClient client(m_samba.port());
-        return appendCalls(client.files(), kDatabase, kRounds);
+        return appendCalls(client.files(), kDatabase, kRounds, allowance);
     });
     Engine engine(m_client.files(), Engine::sleepBriefly, patience());
     const DeleteRounds rounds = deleteWhileAppending(engine, kDatabase, server);
