@@ -40,7 +40,8 @@ Secret::~Secret() {
 }
 
 void wipe(void* memory, std::size_t size) noexcept {
-    ::explicit_bzero(memory, size);
+    if (size > 0) // an empty buffer may have no address
+        ::explicit_bzero(memory, size);
 }
 
 } // namespace share::smb
