@@ -22,7 +22,7 @@ void addStatus(CommandBar& ab) {
     band.AddTool("miSRew", "Tool11").SetPicture(playerIcon(PlayerIcon::Rewind));
     band.AddTool("miSFwd", "Tool10").SetPicture(playerIcon(PlayerIcon::Forward));
     band.AddTool("miSProgress", "Tool13");
-    ab.ShowDescriptionsIn(band.AddTool("Tool14"));
+    ab.ShowDescriptionsIn(band.AddTool("Tool14", "Tool14"));
 }
 
 void addMenu(CommandBar& ab) {

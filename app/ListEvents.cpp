@@ -3,14 +3,9 @@
 #include "app/ListEvents.h"
 
 #include "errors/Procedure.h"
+#include "platform/forms/MouseButtons.h"
 
 namespace app {
-namespace {
-
-constexpr int kRightButton = 2;
-
-} // namespace
-
 ListEvents::ListEvents(Parts parts) : m_parts(parts) {
     connect(&m_parts.list, &forms::ListView::Click, this, &ListEvents::lsCalls_Click);
     connect(&m_parts.list, &forms::ListView::ItemClick, this, &ListEvents::lsCalls_ItemClick);
@@ -39,7 +34,7 @@ void ListEvents::lsCalls_DblClick() {
 
 void ListEvents::lsCalls_MouseUp(int button, const QPoint& globalPos) {
     errors::Procedure proc{m_parts.errorHandler, "frmMain", "lsCalls_MouseUp"};
-    if (button == kRightButton)
+    if (button == forms::kRightButton)
         proc.step([&] { m_parts.ab.PopupMenu("mnuPopup", globalPos); });
 }
 

@@ -3,6 +3,7 @@
 #include "app/MailboxData.h"
 
 #include "app/StatusLine.h"
+#include "data/MailboxKey.h"
 #include "platform/basic/ObjectOf.h"
 #include "resources/Icons.h"
 #include "resources/StringTable.h"
@@ -81,8 +82,9 @@ void MailboxData::addTabs(errors::Procedure& proc, const data::clsConfig& config
     for (const auto& mailbox : mailboxes) {
         if (!proc.running() || m_parts.state.generation != generation)
             return;
-        proc.step(
-            [&] { tabs.Add("KEY" + std::to_string(mailbox->ID), mailbox->Name, resources::kMailboxImage); });
+        proc.step([&] {
+            tabs.Add(data::mailboxKey(std::to_string(mailbox->ID)), mailbox->Name, resources::kMailboxImage);
+        });
     }
     // A single mailbox is shown without tabs: no tabs is how everybody recognises that case.
     if (proc.value(false, [&] { return tabs.Count() == 1; }))

@@ -11,8 +11,8 @@
 #include "platform/jet/Connection.h"
 #include "platform/share/MountTable.h"
 #include "platform/share/smb/CredentialsFile.h"
+#include "resources/LocalText.h"
 #include "resources/ProductData.h"
-#include "resources/StringTable.h"
 
 #include <QApplication>
 #include <QDBusConnection>
@@ -25,9 +25,7 @@
 namespace app {
 namespace {
 
-QString text(std::int32_t id, std::string_view english) {
-    return forms::toQString(resources::LoadLocalString(id, english));
-}
+using resources::localText;
 
 std::string executable() {
     return forms::fromQString(QCoreApplication::applicationFilePath());
@@ -44,7 +42,7 @@ std::string credentialsFile() {
 }
 
 forms::MessageBoxButtonTexts buttonTexts() {
-    return {text(5000, "OK"), text(5001, "Cancel"), text(5002, "Yes"), text(5003, "No")};
+    return {localText(5000, "OK"), localText(5001, "Cancel"), localText(5002, "Yes"), localText(5003, "No")};
 }
 
 } // namespace
@@ -53,7 +51,7 @@ Program::Program(Application& application, SingleInstance& instance)
     : m_application(application), m_dateTimeFormat(forms::userDateTimeFormat()),
       m_facts(errors::programFacts(executable())),
       m_messageBoxes(buttonTexts(), forms::toQString(resources::kProductTitle)),
-      m_mail(text(5080, "The error report is attached as a text file.")),
+      m_mail(localText(5080, "The error report is attached as a text file.")),
       m_report(m_mail, m_messageBoxes, m_clock),
       m_shownErrors(
           errorLog(), m_clock,

@@ -3,18 +3,15 @@
 #include "app/TrayEvents.h"
 
 #include "errors/Procedure.h"
-#include "platform/forms/Text.h"
-#include "resources/StringTable.h"
+#include "platform/forms/MouseButtons.h"
+#include "resources/LocalText.h"
 
 namespace app {
 namespace {
 
-constexpr int kRightButton = 2;
-constexpr int kExitDelayMs = 200;
+using resources::localText;
 
-QString text(std::int32_t id, std::string_view english) {
-    return forms::toQString(resources::LoadLocalString(id, english));
-}
+constexpr int kExitDelayMs = 200;
 
 // Clicks on the icon never bother the user with a failure.
 template <typename Action>
@@ -28,11 +25,11 @@ void withErrorsIgnored(Action&& action) {
 } // namespace
 
 void TrayEvents::attach(tray::frmSysTray& icon) {
-    icon.AddMenuItem(text(3683, "&View Call Log"), QStringLiteral("open"), true);
-    icon.AddMenuItem(text(3684, "&Settings"), QStringLiteral("config"), false);
+    icon.AddMenuItem(localText(3683, "&View Call Log"), QStringLiteral("open"), true);
+    icon.AddMenuItem(localText(3684, "&Settings"), QStringLiteral("config"), false);
     icon.AddMenuItem(QStringLiteral("-"), QString(), false);
-    icon.AddMenuItem(text(121, "About Quillamar"), QStringLiteral("about"), false);
-    icon.AddMenuItem(text(3770, "Close Quillamar Client"), QStringLiteral("close"), false);
+    icon.AddMenuItem(localText(121, "About Quillamar"), QStringLiteral("about"), false);
+    icon.AddMenuItem(localText(3770, "Close Quillamar Client"), QStringLiteral("close"), false);
 
     connect(&icon, &tray::frmSysTray::MenuClick, this,
             [this](int, const QString& key) { m_frmSysTray_MenuClick(key); });
@@ -49,7 +46,7 @@ void TrayEvents::m_frmSysTray_SysTrayDoubleClick() {
 
 // No trap (frmMain, m_frmSysTray_SysTrayMouseDown): ignores all errors.
 void TrayEvents::m_frmSysTray_SysTrayMouseDown(tray::frmSysTray& icon, int button) {
-    if (button == kRightButton)
+    if (button == forms::kRightButton)
         withErrorsIgnored([&icon] { icon.ShowMenu(); });
 }
 

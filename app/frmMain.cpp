@@ -9,9 +9,8 @@
 #include "platform/basic/ObjectOf.h"
 #include "platform/forms/ListViewMacros.h"
 #include "platform/forms/ModalState.h"
-#include "platform/forms/Text.h"
 #include "resources/Icons.h"
-#include "resources/StringTable.h"
+#include "resources/LocalText.h"
 
 #include <QApplication>
 #include <QCloseEvent>
@@ -23,12 +22,10 @@
 namespace app {
 namespace {
 
+using resources::localText;
+
 constexpr QSize kFirstSize{640, 420};
 constexpr std::string_view kOptions = "miVOptions";
-
-QString text(std::int32_t id, std::string_view english) {
-    return forms::toQString(resources::LoadLocalString(id, english));
-}
 
 // Whoever else was handed the connection finds it closed.
 void release(std::shared_ptr<jet::Connection>& connection) {
@@ -40,9 +37,9 @@ void release(std::shared_ptr<jet::Connection>& connection) {
 forms::ImageList listImages() {
     forms::ImageList images;
     images.Set(resources::kCallWithMessage, resources::callIcon(resources::kCallWithMessage),
-               text(5014, "Call with a recorded message"));
+               localText(5014, "Call with a recorded message"));
     images.Set(resources::kCallWithoutMessage, resources::callIcon(resources::kCallWithoutMessage),
-               text(5015, "Call without a message"));
+               localText(5015, "Call without a message"));
     return images;
 }
 
@@ -89,8 +86,8 @@ frmMain::frmMain(const MainServices& services)
     setWindowIcon(resources::programIcon());
     m_lsCalls.SetSmallIcons(listImages());
     m_TabStrip.SetImages(tabImages());
-    m_lsCalls.SetAccessibleName(text(5010, "Call list"));
-    m_TabStrip.SetAccessibleName(text(5011, "Mailboxes"));
+    m_lsCalls.SetAccessibleName(localText(5010, "Call list"));
+    m_TabStrip.SetAccessibleName(localText(5011, "Mailboxes"));
     m_lsCalls.SetMultiSelect(true);
     resize(kFirstSize);
     layOutCommandBar(m_ab);
@@ -136,7 +133,7 @@ void frmMain::mTimer_ThatTime() {
 void frmMain::Form_Load() {
     errors::Procedure proc{m_services.errorHandler, "frmMain", "Form_Load"};
     proc.step([&] { LoadCaptions(m_services.errorHandler, *this, m_ab); });
-    proc.step([&] { setWindowTitle(text(3682, "Quillamar Calls")); });
+    proc.step([&] { setWindowTitle(localText(3682, "Quillamar Calls")); });
     proc.step([&] { dockPlayer(); });
     proc.step([&] { m_ab.SetClientAreaControl(&m_TabStrip); });
     proc.step([&] { m_TabStrip.Tabs().Clear(); });
@@ -155,8 +152,8 @@ void frmMain::Form_Load() {
 }
 
 void frmMain::loadTrayIcon() {
-    m_frmSysTray =
-        std::make_unique<tray::frmSysTray>(m_services.tray, text(5004, "Quillamar Client"), windowIcon());
+    m_frmSysTray = std::make_unique<tray::frmSysTray>(m_services.tray, localText(5004, "Quillamar Client"),
+                                                      windowIcon());
     m_frmSysTray->Load();
     m_trayEvents.attach(*m_frmSysTray);
     m_frmSysTray->setToolTip(QStringLiteral("Quillamar"));
@@ -195,8 +192,8 @@ void frmMain::AlertForm_Show(bool showList) {
 }
 
 void frmMain::announce(std::int32_t newCalls) {
-    const QString message =
-        text(3765, "You have ") + u' ' + QString::number(newCalls) + u' ' + text(3766, " new calls");
+    const QString message = localText(3765, "You have ") + u' ' + QString::number(newCalls) + u' ' +
+                            localText(3766, " new calls");
     if (!m_AlertForm)
         return;
     m_AlertForm->lblInfo().setText(message);

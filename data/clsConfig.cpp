@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "data/clsConfig.h"
 
+#include "data/MailboxKey.h"
 #include "errors/Procedure.h"
 #include "platform/basic/Conversion.h"
 #include "platform/registry/Batch.h"
@@ -13,15 +14,13 @@ namespace {
 
 using registry::Root;
 
-constexpr std::string_view kNoMailboxKey = "KEY"; // an empty store has no name behind it
-
 std::string clientKey() {
     return std::string(kSettingsKey) + "\\Client";
 }
 std::string mailboxesKey() {
     return clientKey() + "\\Mailboxes";
 }
-std::string mailboxKey(std::string_view subkey) {
+std::string mailboxSubkey(std::string_view subkey) {
     return mailboxesKey() + "\\" + std::string(subkey);
 }
 
@@ -37,8 +36,9 @@ void clsConfig::Class_Initialize() {
     proc.step([&] { PollInterval = kDefaultPollInterval; });
 }
 
+// An empty store gives one mailbox whose key has no ID behind the prefix.
 bool clsConfig::watchesMailboxes() const {
-    return Mailboxes.Count() > 1 || (Mailboxes.Count() == 1 && Mailboxes.keyAt(1) != kNoMailboxKey);
+    return Mailboxes.Count() > 1 || (Mailboxes.Count() == 1 && Mailboxes.keyAt(1) != kMailboxKeyPrefix);
 }
 
 bool clsConfig::Clear() {
@@ -70,13 +70,13 @@ bool clsConfig::LoadConfig() {
 void clsConfig::loadMailbox(errors::Procedure& proc, const std::string& subkey) {
     const auto mailbox = std::make_shared<clsMailbox>(m_errors);
     const auto read = [&](std::string_view name) {
-        return asText(m_values.readValue(Root::CurrentUser, mailboxKey(subkey), name));
+        return asText(m_values.readValue(Root::CurrentUser, mailboxSubkey(subkey), name));
     };
     proc.step([&] { mailbox->ID = basic::CLng(basic::Val(subkey)); });
     proc.step([&] { mailbox->Name = read("Name"); });
     proc.step([&] { mailbox->Description = read("Description"); });
     proc.step([&] { mailbox->MailboxType = read("MailboxType"); });
-    proc.step([&] { Mailboxes.Add(mailbox, "KEY" + subkey); });
+    proc.step([&] { Mailboxes.Add(mailbox, mailboxKey(subkey)); });
 }
 
 bool clsConfig::SaveConfig() {
@@ -104,12 +104,12 @@ void clsConfig::deleteMailboxKeys(errors::Procedure& proc) {
     proc.step([&] { subkeys = m_values.listSubkeys(Root::CurrentUser, mailboxesKey()); });
     for (const std::string& subkey : subkeys) {
         if (!subkey.empty()) // the list's empty element stands for none
-            proc.step([&] { m_values.deleteKey(Root::CurrentUser, mailboxKey(subkey)); });
+            proc.step([&] { m_values.deleteKey(Root::CurrentUser, mailboxSubkey(subkey)); });
     }
 }
 
 void clsConfig::saveMailbox(errors::Procedure& proc, const clsMailbox& mailbox) {
-    const std::string key = mailboxKey(std::to_string(mailbox.ID));
+    const std::string key = mailboxSubkey(std::to_string(mailbox.ID));
     const auto write = [&](std::string_view name, const std::string& text) {
         proc.step([&] { m_values.writeValue(Root::CurrentUser, key, name, text); });
     };

@@ -4,17 +4,15 @@
 
 #include "errors/ReportText.h"
 #include "platform/forms/Text.h"
+#include "resources/LocalText.h"
 #include "resources/ProductData.h"
-#include "resources/StringTable.h"
 
 #include <QPointer>
 
 namespace errors {
 namespace {
 
-QString text(std::int32_t id, std::string_view english) {
-    return forms::toQString(resources::LoadLocalString(id, english));
-}
+using resources::localText;
 
 } // namespace
 
@@ -31,15 +29,15 @@ std::unique_ptr<shell::MailItem> MailedReport::compose(const ReportFields& field
     auto item = m_mail.CreateItem();
     item->To = forms::toQString(resources::kSupportAddress);
     item->Subject =
-        forms::toQString(resources::kProductTitle) + text(3703, " Error-Report: ") + fields.component;
+        forms::toQString(resources::kProductTitle) + localText(3703, " Error-Report: ") + fields.component;
     item->Body = reportText(fields, m_clock.now());
     return item;
 }
 
 void MailedReport::dispatch(shell::MailItem& item) {
-    const auto answer = m_messageBoxes.show(text(3697, "Do you want to review or comment the Error-Report?"),
-                                            forms::kYesNoCancel | forms::kQuestion,
-                                            forms::toQString(resources::kProductTitle));
+    const auto answer = m_messageBoxes.show(
+        localText(3697, "Do you want to review or comment the Error-Report?"),
+        forms::kYesNoCancel | forms::kQuestion, forms::toQString(resources::kProductTitle));
     const auto tellOutcome = [self = QPointer(this)](shell::MailOutcome outcome) {
         if (self)
             self->tell(outcome);
@@ -52,14 +50,14 @@ void MailedReport::dispatch(shell::MailItem& item) {
 
 void MailedReport::tell(shell::MailOutcome outcome) {
     if (outcome == shell::MailOutcome::Sent)
-        m_messageBoxes.show(text(3699, "The message was sent successfully."), forms::kInformation,
+        m_messageBoxes.show(localText(3699, "The message was sent successfully."), forms::kInformation,
                             forms::toQString(resources::kProductTitle));
     if (outcome == shell::MailOutcome::Failed)
         tellFailure();
 }
 
 void MailedReport::tellFailure() {
-    m_messageBoxes.show(text(3700, "Failed to send Error-Report. Could not start Outlook."),
+    m_messageBoxes.show(localText(3700, "Failed to send Error-Report. Could not start Outlook."),
                         forms::kExclamation, forms::toQString(resources::kProductTitle));
 }
 

@@ -62,4 +62,8 @@ std::string LoadLocalString(std::int32_t id, std::string_view /*englishForTheRea
     return std::string(language() == Language::German ? found->german : found->english);
 }
 
+std::string loadText(const TextEntry& entry) {
+    return LoadLocalString(entry.id, entry.english);
+}
+
 } // namespace resources

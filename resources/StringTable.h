@@ -23,4 +23,11 @@ Language language() noexcept;
 // second argument is the English text for the reader of the code and is not used.
 std::string LoadLocalString(std::int32_t id, std::string_view englishForTheReader = {});
 
+// The same for texts that stand in a table of the program.
+struct TextEntry {
+    std::int32_t id;
+    std::string_view english;
+};
+std::string loadText(const TextEntry& entry);
+
 } // namespace resources

@@ -5,7 +5,7 @@
 #include "platform/basic/Twips.h"
 #include "platform/forms/ModalState.h"
 #include "resources/Icons.h"
-#include "resources/StringTable.h"
+#include "resources/LocalText.h"
 #include "tray/LinkLabel.h"
 
 #include <QApplication>
@@ -16,15 +16,13 @@
 namespace tray {
 namespace {
 
+using resources::localText;
+
 using basic::Twips;
 
 constexpr int kSideTolerance = 10; // how far a taskbar may end from the screen's sides and still span it
 constexpr int kLeastTaskbarTop = 11;
 constexpr int kPictureSize = 32;
-
-QString text(std::int32_t id, std::string_view english) {
-    return QString::fromStdString(resources::LoadLocalString(id, english));
-}
 
 QFont labelFont() {
     QFont font = QApplication::font();
@@ -45,9 +43,9 @@ frmAlert::frmAlert(errors::ErrorHandler& errorHandler, shell::DesktopWindows& de
       m_errors(errorHandler), m_desktop(desktop), m_Shape1(new QFrame(this)), m_Image1(new QLabel(m_Shape1)),
       m_lblInfo(new QLabel(u"You have 5 new calls"_qs, m_Shape1)),
       m_Label1(new LinkLabel(u"Label1"_qs, u"x"_qs, m_Shape1)),
-      m_Label2(new LinkLabel(u"Label2"_qs, text(3760, "Show"), m_Shape1)) {
+      m_Label2(new LinkLabel(u"Label2"_qs, localText(3760, "Show"), m_Shape1)) {
     setObjectName(u"frmAlert"_qs);
-    setWindowTitle(text(5018, "New calls"));
+    setWindowTitle(localText(5018, "New calls"));
     setAttribute(Qt::WA_ShowWithoutActivating);
     setFocusPolicy(Qt::NoFocus);
     setFont(labelFont());
@@ -55,7 +53,7 @@ frmAlert::frmAlert(errors::ErrorHandler& errorHandler, shell::DesktopWindows& de
     m_Image1->setObjectName(u"Image1"_qs);
     m_lblInfo->setObjectName(u"lblInfo"_qs);
     m_lblInfo->setTextFormat(Qt::PlainText);
-    m_Label1->setAccessibleName(text(129, "Close"));
+    m_Label1->setAccessibleName(localText(129, "Close"));
     connect(m_Label1, &LinkLabel::clicked, this, &frmAlert::Label1_Click);
     connect(m_Label2, &LinkLabel::clicked, this, &frmAlert::Label2_Click);
     layOut();

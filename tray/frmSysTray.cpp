@@ -3,16 +3,11 @@
 #include "tray/frmSysTray.h"
 
 #include "platform/basic/Conversion.h"
+#include "platform/forms/MouseButtons.h"
 
 #include <utility>
 
 namespace tray {
-namespace {
-
-constexpr int kLeftButton = 1;
-constexpr int kRightButton = 2;
-
-} // namespace
 
 frmSysTray::frmSysTray(const TrayServices& services, QString programName, QIcon windowIcon, QObject* parent)
     : QObject(parent), m_services(services), m_programName(std::move(programName)),
@@ -106,19 +101,19 @@ void frmSysTray::raiseEvent(std::uint32_t code) {
         Q_EMIT SysTrayMouseMove();
         break;
     case shell::kLeftButtonUp:
-        Q_EMIT SysTrayMouseDown(kLeftButton);
+        Q_EMIT SysTrayMouseDown(forms::kLeftButton);
         break;
     case shell::kLeftDoubleClick:
-        Q_EMIT SysTrayDoubleClick(kLeftButton);
+        Q_EMIT SysTrayDoubleClick(forms::kLeftButton);
         break;
     case shell::kRightButtonDown:
-        Q_EMIT SysTrayMouseDown(kRightButton);
+        Q_EMIT SysTrayMouseDown(forms::kRightButton);
         break;
     case shell::kRightButtonUp:
-        Q_EMIT SysTrayMouseUp(kRightButton);
+        Q_EMIT SysTrayMouseUp(forms::kRightButton);
         break;
     case shell::kRightDoubleClick:
-        Q_EMIT SysTrayDoubleClick(kRightButton);
+        Q_EMIT SysTrayDoubleClick(forms::kRightButton);
         break;
     case shell::kBalloonShow:
         Q_EMIT BalloonShow();

@@ -3,6 +3,7 @@
 #include "platform/forms/ReportView.h"
 
 #include "platform/forms/ListModel.h"
+#include "platform/forms/MouseButtons.h"
 #include "platform/forms/ReportHeader.h"
 #include "platform/forms/RowDelegate.h"
 
@@ -24,11 +25,11 @@ constexpr int kWidestMeasuredCharacters = 32;
 int buttonNumber(Qt::MouseButton button) {
     switch (button) {
     case Qt::LeftButton:
-        return 1;
+        return kLeftButton;
     case Qt::RightButton:
-        return 2;
+        return kRightButton;
     case Qt::MiddleButton:
-        return 4;
+        return kMiddleButton;
     default:
         return 0;
     }
@@ -98,7 +99,7 @@ void ReportView::mouseReleaseEvent(QMouseEvent* event) {
     QTreeView::mouseReleaseEvent(event);
     const int button = buttonNumber(event->button());
     const QPoint where = event->globalPosition().toPoint();
-    const bool isClick = button == 1 && !std::exchange(m_doubleClicked, false);
+    const bool isClick = button == kLeftButton && !std::exchange(m_doubleClicked, false);
     if (isClick)
         Q_EMIT clickedAnywhere();
     if (button != 0)
@@ -145,7 +146,7 @@ void ReportView::contextMenuEvent(QContextMenuEvent* event) {
     Q_EMIT userInput();
     const QRect row = visualRect(currentIndex()).intersected(viewport()->rect());
     const QPoint where = row.isEmpty() ? viewport()->rect().topLeft() : row.center();
-    Q_EMIT mouseUp(buttonNumber(Qt::RightButton), viewport()->mapToGlobal(where));
+    Q_EMIT mouseUp(kRightButton, viewport()->mapToGlobal(where));
 }
 
 void ReportView::resizeEvent(QResizeEvent* event) {

@@ -43,7 +43,7 @@ const std::array kEnglish{
                {"Tool11", ""},
                {"Tool10", ""},
                {"Tool13", ""},
-               {"", ""}}},
+               {"Tool14", ""}}},
     BandTexts{"Menu", "Menu", {{"&File", ""}, {"&Edit", ""}, {"&Tools", ""}, {"&Help", ""}}},
     BandTexts{"mnuFile", "File", {{"&Hide window", ""}, {"", ""}, {"&Exit Quillamar Client", ""}}},
     BandTexts{
@@ -75,7 +75,7 @@ const std::array kGerman{
                {"Tool11", ""},
                {"Tool10", ""},
                {"Tool13", ""},
-               {"", ""}}},
+               {"Tool14", ""}}},
     BandTexts{"Menu", "Menü", {{"Datei", ""}, {"&Bearbeiten", ""}, {"&Extras", ""}, {"&Hilfe", ""}}},
     BandTexts{"mnuFile", "Datei", {{"Fenster &minimieren", ""}, {"", ""}, {"Quillamar Client &Beenden", ""}}},
     BandTexts{"mnuHelp",

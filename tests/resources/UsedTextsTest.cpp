@@ -51,7 +51,8 @@ struct Findings {
 };
 
 void scan(const std::string& source, const std::string& name, const Table& texts, Findings& findings) {
-    static const std::regex call(R"rx(LoadLocalString\(\s*(\d+)\s*(?:,((?:\s*"(?:[^"\\]|\\.)*")+))?)rx");
+    static const std::regex call(
+        R"rx((?:LoadLocalString|localText|TextEntry)\s*[({]\s*(\d+)\s*(?:,((?:\s*"(?:[^"\\]|\\.)*")+))?)rx");
     for (std::sregex_iterator found(source.begin(), source.end(), call), end; found != end; ++found) {
         const std::int32_t id = std::stoi((*found)[1]);
         findings.used.insert(id);
@@ -62,10 +63,18 @@ void scan(const std::string& source, const std::string& name, const Table& texts
             findings.faults.push_back(name + ": another text " + std::to_string(id) + ": " +
                                       joined((*found)[2]));
     }
+    // A number that is passed on by a variable would never be looked at.
+    static const std::regex hidden(R"rx((?:LoadLocalString|localText|TextEntry)\s*[({]\s*[A-Za-z_])rx");
+    if (std::regex_search(source, hidden))
+        findings.faults.push_back(name + ": a hidden number");
 }
 
 bool isSource(const fs::path& file) {
     return file.extension() == ".cpp" || file.extension() == ".h" || file.extension() == ".in";
+}
+
+bool isTableItself(const fs::path& file) {
+    return file.stem() == "StringTable" || file.stem() == "LocalText";
 }
 
 Findings scanProgram(const Table& texts) {
@@ -76,7 +85,7 @@ Findings scanProgram(const Table& texts) {
         if (!fs::exists(root))
             continue;
         for (const fs::directory_entry& entry : fs::recursive_directory_iterator(root))
-            if (isSource(entry.path()))
+            if (isSource(entry.path()) && !isTableItself(entry.path()))
                 scan(contentOf(entry.path()), entry.path().filename().string(), texts, findings);
     }
     return findings;
@@ -98,6 +107,29 @@ TEST(UsedTexts, AScanSeesMissingNumbersAndOtherTexts) {
     scan("LoadLocalString(9, \"x\"); resources::LoadLocalString(7, \"Open\")", "bad.cpp", texts, findings);
     EXPECT_THAT(findings.faults,
                 ::testing::ElementsAre("bad.cpp: no text 9", "bad.cpp: another text 7: Open"));
+}
+
+TEST(UsedTexts, AScanSeesTextsOfTheToolkitAndOfTables) {
+    const Table texts{{7, "Close"}};
+    Findings findings;
+    scan("localText(8, \"x\"); Row{1, TextEntry{7, \"Open\"}}", "bad.cpp", texts, findings);
+    EXPECT_THAT(findings.faults,
+                ::testing::ElementsAre("bad.cpp: no text 8", "bad.cpp: another text 7: Open"));
+}
+
+TEST(UsedTexts, AScanRefusesNumbersThatItCannotSee) {
+    for (const char* source :
+         {"LoadLocalString(id, \"x\")", "localText( entry.id )", "TextEntry{id, text}"}) {
+        Findings findings;
+        scan(source, "bad.cpp", {}, findings);
+        EXPECT_THAT(findings.faults, ::testing::ElementsAre("bad.cpp: a hidden number")) << source;
+    }
+}
+
+TEST(UsedTexts, TextsOfTheCommandBarAreSeen) {
+    const std::set<std::int32_t> used = scanProgram(englishTexts()).used;
+    for (const std::int32_t id : {105, 3704, 3732, 3743, 3751, 5030})
+        EXPECT_TRUE(used.contains(id)) << id;
 }
 
 TEST(UsedTexts, NoTextOfTheTableHoldsACarriageReturn) {
