@@ -19,7 +19,7 @@ add_library(qm_settings INTERFACE)
 target_include_directories(qm_settings INTERFACE ${CMAKE_SOURCE_DIR})
 target_compile_options(qm_settings INTERFACE
   -Wall -Wextra -Wpedantic -Wshadow -Wconversion -Wsign-conversion -Wold-style-cast
-  -Wnon-virtual-dtor -Woverloaded-virtual -Wimplicit-fallthrough -Werror
+  -Wnon-virtual-dtor -Woverloaded-virtual -Wimplicit-fallthrough
   -fstack-protector-strong)
 target_compile_definitions(qm_settings INTERFACE $<$<CONFIG:Release,RelWithDebInfo>:_FORTIFY_SOURCE=2>)
 

@@ -48,7 +48,8 @@ void MendedWave::writeHeader(std::span<const std::byte> formatChunk) {
     appendTag(m_header, "WAVEfmt ");
     appendLittleEndian(m_header, formatSize, 4);
     m_header.insert(m_header.end(), formatChunk.begin(), formatChunk.end());
-    m_header.resize(m_header.size() + formatSize % 2);
+    if (formatSize % 2 != 0)
+        m_header.push_back(std::byte{0});
     appendTag(m_header, "data");
     appendLittleEndian(m_header, soundSize, 4);
 }
