@@ -15,11 +15,16 @@ if(CCACHE_PROGRAM AND NOT CMAKE_CXX_COMPILER_LAUNCHER)
   set(CMAKE_CXX_COMPILER_LAUNCHER ${CCACHE_PROGRAM})
 endif()
 
+# On in every preset. Off for whoever builds the program without one: another compiler's false alarm must not
+# stop them.
+option(QM_WARNINGS_AS_ERRORS "Stop at a compiler's warning" OFF)
+set(qm_warnings_as_errors $<$<BOOL:${QM_WARNINGS_AS_ERRORS}>:-Werror>)
+
 add_library(qm_settings INTERFACE)
 target_include_directories(qm_settings INTERFACE ${CMAKE_SOURCE_DIR})
 target_compile_options(qm_settings INTERFACE
   -Wall -Wextra -Wpedantic -Wshadow -Wconversion -Wsign-conversion -Wold-style-cast
-  -Wnon-virtual-dtor -Woverloaded-virtual -Wimplicit-fallthrough
+  -Wnon-virtual-dtor -Woverloaded-virtual -Wimplicit-fallthrough ${qm_warnings_as_errors}
   -fstack-protector-strong)
 target_compile_definitions(qm_settings INTERFACE $<$<CONFIG:Release,RelWithDebInfo>:_FORTIFY_SOURCE=2>)
 
