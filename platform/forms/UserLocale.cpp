@@ -4,8 +4,12 @@
 
 #include "platform/forms/Text.h"
 
+#include <QDate>
 #include <QRegularExpression>
 #include <QStringList>
+#include <QTime>
+
+#include <optional>
 
 namespace forms {
 namespace {
@@ -32,6 +36,16 @@ basic::DateTimeFormat userDateTimeFormat(const QLocale& locale) {
     format.amText = fromQString(locale.amText());
     format.pmText = fromQString(locale.pmText());
     return format;
+}
+
+std::string longDateAndTime(basic::Date date, const QLocale& locale) {
+    const std::optional<basic::CalendarTime> time = basic::toCalendar(date);
+    if (!time)
+        return basic::DateTimeFormat().invalidDate;
+    const QDate day(time->year, time->month, time->day);
+    const QTime clock(time->hour, time->minute, time->second);
+    const QString timeFormat = withoutZone(locale.timeFormat(QLocale::LongFormat));
+    return fromQString(locale.toString(day, QLocale::LongFormat) + u' ' + locale.toString(clock, timeFormat));
 }
 
 std::string userLanguageName(const QLocale& locale) {

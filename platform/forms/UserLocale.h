@@ -15,6 +15,9 @@ namespace forms {
 // of the day.
 basic::DateTimeFormat userDateTimeFormat(const QLocale& locale = QLocale::system());
 
+// A date in full: the locale's long date, a blank, and its long time without zone.
+std::string longDateAndTime(basic::Date date, const QLocale& locale = QLocale::system());
+
 // The name of the language that the user wants programs in, such as "de-DE".
 std::string userLanguageName(const QLocale& locale = QLocale::system());
 
