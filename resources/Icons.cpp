@@ -55,6 +55,16 @@ QIcon playerIcon(PlayerIcon button) {
     return {};
 }
 
+QIcon detailsIcon(std::int32_t picture) {
+    if (picture == kDetailsWithMessage)
+        return icon(QStringLiteral("details-with-message"));
+    return picture == kDetailsWithoutMessage ? icon(QStringLiteral("details-without-message")) : QIcon();
+}
+
+QIcon stepIcon(bool down) {
+    return icon(down ? QStringLiteral("next") : QStringLiteral("previous"));
+}
+
 QIcon newCallsPicture() {
     return icon(QStringLiteral("new-calls"));
 }

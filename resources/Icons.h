@@ -12,10 +12,12 @@
 
 namespace resources {
 
-// Numbers of the call list's small icons and of the tab strip's image.
+// Numbers of the call list's small icons, of the tab strip's image and of the details dialog's pictures.
 inline constexpr std::int32_t kCallWithMessage = 1;
 inline constexpr std::int32_t kCallWithoutMessage = 8;
 inline constexpr std::int32_t kMailboxImage = 1;
+inline constexpr std::int32_t kDetailsWithMessage = 8;
+inline constexpr std::int32_t kDetailsWithoutMessage = 30;
 
 enum class PlayerIcon { Play, Pause, Stop, Rewind, Forward };
 
@@ -26,6 +28,10 @@ QIcon trayIcon();
 QIcon callIcon(std::int32_t smallIcon);
 QIcon mailboxIcon(std::int32_t image);
 QIcon playerIcon(PlayerIcon button);
+// Pure green in it is a key colour, to be replaced by who draws it.
+QIcon detailsIcon(std::int32_t picture);
+// The arrow of a button that goes to the next or the previous call.
+QIcon stepIcon(bool down);
 // The picture of the popup that announces calls.
 QIcon newCallsPicture();
 
