@@ -4,12 +4,19 @@
 // The mailbox databases as the client uses them: the statements exactly as they are sent, and the columns it
 // reads by name. Everything else about these tables is the server's.
 
+#include <string>
+#include <string_view>
+
 namespace data {
 
 inline constexpr const char* kAllCalls =
     "SELECT *, MessageLength & 's' AS MessageLengthS FROM CallLog ORDER BY ID DESC";
 inline constexpr const char* kCountCalls = "SELECT COUNT(*) FROM CallLog";
 inline constexpr const char* kDeleteCalls = "DELETE FROM CallLog";
+// The ID goes in as it stands; one with an apostrophe makes a statement that the provider refuses.
+inline std::string oneCall(std::string_view callID) {
+    return std::string("SELECT * FROM CallLog WHERE CallID='").append(callID).append("'");
+}
 
 inline constexpr const char* kCallID = "CallID";
 inline constexpr const char* kCallDate = "CallDate";
@@ -17,5 +24,6 @@ inline constexpr const char* kCallerID = "CallerID";
 inline constexpr const char* kCallerName = "CallerName";
 inline constexpr const char* kMessageLength = "MessageLength";
 inline constexpr const char* kMessageLengthS = "MessageLengthS";
+inline constexpr const char* kCallDetails = "CallDetails";
 
 } // namespace data

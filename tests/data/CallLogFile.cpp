@@ -43,11 +43,11 @@ basic::Variant orNull(const auto& value) {
 std::vector<basic::Variant> row(const Call& call) {
     return {basic::Null{},
             call.callID,
-            basic::Date{call.date},
-            call.callerID,
+            call.date ? basic::Variant(basic::Date{*call.date}) : basic::Variant(basic::Null{}),
+            orNull(call.callerID),
             orNull(call.callerName),
             orNull(call.messageLength),
-            std::string("details of ") + call.callID};
+            call.details.value_or(basic::Variant("details of " + call.callID))};
 }
 
 } // namespace

@@ -3,6 +3,8 @@
 #pragma once
 // A mailbox's call log as the server keeps it, made by our own writer: created empty, then appended to.
 
+#include "platform/basic/Variant.h"
+
 #include <cstdint>
 #include <filesystem>
 #include <optional>
@@ -14,8 +16,9 @@ struct Call {
     std::string callID;
     std::optional<std::string> callerName = "Anna Berg";
     std::optional<std::int32_t> messageLength = 12;
-    std::string callerID = "+4930123456";
-    double date = 45000.5;
+    std::optional<std::string> callerID = "+4930123456";
+    std::optional<double> date = 45000.5;
+    std::optional<basic::Variant> details = std::nullopt; // "details of <ID>" when not given
 };
 
 class CallLogFile {

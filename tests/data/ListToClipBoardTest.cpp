@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "data/ListToClipBoard.h"
 
-#include "platform/basic/RuntimeError.h"
+#include "tests/data/NotedClipboard.h"
 #include "tests/errors/RecordingErrorHandler.h"
 
 #include <gtest/gtest.h>
@@ -11,21 +11,6 @@
 
 namespace data {
 namespace {
-
-class NotedClipboard final : public forms::Clipboard {
-public:
-    void Clear() override {
-        if (isLocked)
-            throw basic::RuntimeError(521);
-        text.clear();
-        ++cleared;
-    }
-    void SetText(std::string_view newText) override { text = newText; }
-
-    std::string text = "from before";
-    int cleared = 0;
-    bool isLocked = false;
-};
 
 class ListToClipBoardTest : public testing::Test {
 protected:
