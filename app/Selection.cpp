@@ -32,6 +32,23 @@ void Selection::ChangeItem() {
     proc.step([&] { m_parts.itemChanged(connection, callID); });
 }
 
+void Selection::MoveList(bool down) {
+    errors::Procedure proc{m_parts.errorHandler, "frmMain", "MoveList"};
+    forms::ListView& list = m_parts.list;
+    const auto item = list.SelectedItem();
+    if (!item)
+        return;
+    const int position = item->Index() + (down ? 1 : -1);
+    if (position < 1 || position > list.ListItems().Count())
+        return;
+    const forms::ListItem reached = list.ListItems().Item(position);
+    proc.step([&] { list.SetMultiSelect(false); });
+    proc.step([&] { list.SetSelectedItem(reached); });
+    proc.step([&] { list.SetMultiSelect(true); });
+    proc.step([&] { list.EnsureVisible(reached); });
+    proc.step([&] { ChangeItem(); });
+}
+
 void Selection::openMailbox(errors::Procedure& proc, std::int32_t mailboxID) {
     proc.step([&] {
         m_parts.state.currentConnection = m_parts.common.GetMBXCon(mailboxID, *m_parts.state.config);

@@ -56,6 +56,7 @@ frmMain::frmMain(const MainServices& services)
       m_selection(
           {services.errorHandler, services.common, m_lsCalls, m_TabStrip, m_state,
            [this](const auto& connection, const auto& callID) { Q_EMIT ItemChanged(connection, callID); }}),
+      m_callDetails({services.errorHandler, *this, *this, *this}),
       m_buttonStates(
           {services.errorHandler, m_ab, m_lsCalls,
            [this] {
@@ -111,6 +112,7 @@ void frmMain::addCommands() {
     m_commands.add("miECopy", [this] {
         data::ListToClipBoard(m_services.errorHandler, m_lsCalls, m_services.clipboard);
     });
+    m_commands.add("miEDetails", [this] { m_callDetails.ShowDetails(); });
     m_commands.add("miEClear", [this](errors::Procedure& proc) { m_deleteAll(proc); });
     m_commands.add("miESelectAll", [this] { selectAll(); });
 }
@@ -164,6 +166,12 @@ void frmMain::loadDialogs() {
     m_AlertForm = std::make_unique<tray::frmAlert>(m_services.errorHandler, m_services.desktop);
     connect(m_AlertForm.get(), &tray::frmAlert::Show, this,
             [this](bool& showList) { AlertForm_Show(showList); });
+    m_callDetails.load(
+        {m_services.errorHandler, m_services.clipboard, m_services.dateTimeFormat, QLocale::system()});
+}
+
+QMetaObject::Connection frmMain::whenItemChanged(QObject& listener, ItemChangedHandler handler) {
+    return connect(this, &frmMain::ItemChanged, &listener, std::move(handler));
 }
 
 // A command that comes while a server is waited for (from the tray's menu: the window takes none) runs after.
@@ -282,6 +290,7 @@ void frmMain::Form_Unload() {
     proc.step([&] { release(m_state.currentConnection); });
     proc.step([&] { release(m_state.listConnection); });
     proc.step([&] { m_state.config.reset(); });
+    proc.step([&] { m_callDetails.unload(); });
     proc.step([&] {
         if (auto* popup = m_AlertForm.release()) {
             popup->hide();

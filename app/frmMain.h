@@ -7,6 +7,7 @@
 // must outlive it; user-interface thread.
 
 #include "app/ButtonStates.h"
+#include "app/CallDetails.h"
 #include "app/CallList.h"
 #include "app/Commands.h"
 #include "app/DeleteAll.h"
@@ -38,7 +39,7 @@ namespace app {
 // Why a window is unloaded, with the platform's numbers.
 enum class UnloadMode { User = 0, Code = 1, SessionEnd = 2 };
 
-class frmMain : public QMainWindow, public MainProcedures {
+class frmMain : public QMainWindow, public MainProcedures, public dialogs::CallSelection {
     Q_OBJECT
 public:
     explicit frmMain(const MainServices& services);
@@ -60,6 +61,10 @@ public:
     void layOut() override { m_messages.layOut(); }
     bool answerModalDialog() override;
     void unload() override { unload(UnloadMode::Code); }
+
+    // dialogs::CallSelection
+    QMetaObject::Connection whenItemChanged(QObject& listener, ItemChangedHandler handler) override;
+    void MoveList(bool down) override { m_selection.MoveList(down); }
 
     void unload(UnloadMode mode);
     // There is no notification area: the window shows itself, at the next tick after a modal window is gone
@@ -105,6 +110,7 @@ private:
     forms::Timer m_mTimer;
 
     Selection m_selection;
+    CallDetails m_callDetails;
     ButtonStates m_buttonStates;
     CallList m_callList;
     Poll m_poll;

@@ -17,6 +17,9 @@ using errors::Trial;
 
 const CannotFail kQueryUnload{"frmMain", "Form_QueryUnload", "it hides the window and sets a flag"};
 
+const CannotFail kMoveList{"frmMain", "MoveList",
+                           "it uses items as they are now, and ChangeItem reports its failures itself"};
+
 // The real window over real call logs, with the trial as its error handler.
 class World final : public MainWorld {
 public:
@@ -146,6 +149,21 @@ const Provocation kChangeItem{"frmMain", "ChangeItem", basic::kInvalidProcedureC
                                   world.window->ChangeItem();
                                   return {wasTold};
                               }};
+
+const Provocation kShowDetails{
+    "frmMain", "ShowDetails", basic::kNonModalWhileModal, [](Trial& trial) -> Effect {
+        World world(trial);
+        world.configure({12});
+        world.load();
+        QDialog modal;
+        modal.open();
+        trial.repair = [&] { modal.close(); };
+        bool wasTold = false;
+        QObject::connect(&*world.window, &frmMain::ItemChanged, [&] { wasTold = true; });
+        world.window->ab_ToolClick("miEDetails");
+        const auto* details = world.window->findChild<QDialog*>(QStringLiteral("frmCallDetails"));
+        return {details->isVisible(), wasTold};
+    }};
 
 const Provocation kTick{"frmMain", "mTimer_ThatTime", basic::kProviderFailure, [](Trial& trial) -> Effect {
                             World world(trial);
