@@ -1,0 +1,145 @@
+// SPDX-FileCopyrightText: 2026 The qmClient authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "tests/audio/PlayerTest.h"
+
+#include <QAccessible>
+
+namespace audio {
+namespace {
+
+using testing::ElementsAre;
+using testing::IsEmpty;
+
+TEST_F(PlayerTest, TrackAndMarkerLieWhereTheLayoutPutsThem) {
+    EXPECT_EQ(part("picTop").geometry(), QRect(4, 4, 400 - 8, 7));
+    EXPECT_EQ(part("lblPos").geometry(), QRect(0, 1, 8, 13));
+    EXPECT_EQ(player->height(), 15);
+    player->resize(250, 15);
+    EXPECT_EQ(part("picTop").geometry(), QRect(4, 4, 250 - 8, 7));
+}
+
+TEST_F(PlayerTest, MarkerMovesWithTheFraction) {
+    play();
+    sound.position = 5;
+    tick();
+    EXPECT_EQ(player->markerPlace().Left().value, (6000 - 120 - 120) / 2);
+    EXPECT_EQ(part("lblPos").x(), 192);
+}
+
+TEST_F(PlayerTest, MarkerAtTheEndLeavesItsWidthAndTheMargins) {
+    play();
+    sound.position = 10;
+    tick();
+    EXPECT_EQ(player->markerPlace().Left().value, 6000 - 120 - 120);
+}
+
+TEST_F(PlayerTest, FractionThatIsTooLargeForTheLayoutMovesNothing) {
+    play();
+    sound.position = 5;
+    tick();
+    sound.position = 1e12;
+    sound.duration = 0.1;
+    tick();
+    EXPECT_EQ(player->markerPlace().Left().value, 2880);
+    EXPECT_THAT(errorHandler.reports, IsEmpty());
+}
+
+TEST_F(PlayerTest, ClickOnTheTrackWhileStoppedDoesNothing) {
+    click(100);
+    EXPECT_EQ(lastMove(), "");
+    play();
+    player->StopPlay();
+    click(100);
+    EXPECT_EQ(lastMove(), "");
+}
+
+// The track is 392 pixels wide, the marker 8: a click at 4 + 96 is a quarter.
+TEST_F(PlayerTest, ClickOnTheTrackGoesToItsFraction) {
+    play();
+    click(4 + 96);
+    EXPECT_EQ(lastMove(), "CurrentPosition = 2.5");
+    player->Pause();
+    click(4 + 192);
+    EXPECT_EQ(lastMove(), "CurrentPosition = 5");
+}
+
+TEST_F(PlayerTest, ClickLeftOfTheTrackIsANegativeFractionAndOneBesideItCountsTheSame) {
+    play();
+    click(0, 1);
+    EXPECT_EQ(lastMove(), "CurrentPosition = -0.104167");
+    click(4 + 96, 14);
+    EXPECT_EQ(lastMove(), "CurrentPosition = 2.5");
+    click(399);
+    EXPECT_EQ(lastMove(), "CurrentPosition = 10.2865");
+}
+
+TEST_F(PlayerTest, ClickOnTheMarkerSeeksNothing) {
+    play();
+    sound.takeLog();
+    QTest::mouseClick(&part("lblPos"), Qt::LeftButton);
+    EXPECT_EQ(lastMove(), "");
+}
+
+TEST_F(PlayerTest, PressThatIsLetGoElsewhereIsNoClick) {
+    play();
+    sound.takeLog();
+    QTest::mousePress(player.get(), Qt::LeftButton, {}, {100, 7});
+    QTest::mouseRelease(player.get(), Qt::LeftButton, {}, {100, 70});
+    QTest::mouseClick(player.get(), Qt::RightButton, {}, {100, 7});
+    EXPECT_EQ(lastMove(), "");
+}
+
+TEST_F(PlayerTest, ArrowKeysStepAndTheEndsAreReachedByTheirKeys) {
+    play();
+    sound.position = 3;
+    sound.takeLog();
+    QTest::keyClick(player.get(), Qt::Key_Right);
+    EXPECT_EQ(lastMove(), "CurrentPosition = 4");
+    QTest::keyClick(player.get(), Qt::Key_Left);
+    EXPECT_EQ(lastMove(), "CurrentPosition = 3");
+    QTest::keyClick(player.get(), Qt::Key_End);
+    EXPECT_EQ(lastMove(), "CurrentPosition = 10");
+    QTest::keyClick(player.get(), Qt::Key_Home);
+    EXPECT_EQ(lastMove(), "CurrentPosition = 0");
+    EXPECT_EQ(player->focusPolicy(), Qt::StrongFocus);
+}
+
+TEST_F(PlayerTest, IsASliderWithANameAndAValueToAssistivePrograms) {
+    QAccessibleInterface* slider = QAccessible::queryAccessibleInterface(player.get());
+    ASSERT_NE(slider, nullptr);
+    EXPECT_EQ(slider->role(), QAccessible::Slider);
+    EXPECT_EQ(slider->text(QAccessible::Name), QStringLiteral("Position"));
+    EXPECT_EQ(slider->text(QAccessible::Value), QString());
+    EXPECT_EQ(slider->childCount(), 0);
+    ASSERT_NE(slider->valueInterface(), nullptr);
+    EXPECT_EQ(slider->valueInterface()->currentValue().toDouble(), 0);
+    play();
+    sound.position = 12;
+    sound.duration = 48;
+    tick();
+    EXPECT_EQ(slider->text(QAccessible::Value), QStringLiteral("0:12 of 0:48"));
+    EXPECT_EQ(slider->valueInterface()->currentValue().toDouble(), 25);
+    EXPECT_EQ(slider->valueInterface()->maximumValue().toInt(), 100);
+    sound.takeLog();
+    slider->valueInterface()->setCurrentValue(50);
+    EXPECT_EQ(lastMove(), "CurrentPosition = 24");
+}
+
+TEST_F(PlayerTest, DrawsTheTracksEdgeOnlyWhileThereIsAPosition) {
+    useRecordedSurface();
+    player->resize(400, 15);
+    player->show();
+    surface->log.clear();
+    player->Draw();
+    EXPECT_THAT(surface->log, ElementsAre("Cls"));
+    surface->log.clear();
+    play();
+    EXPECT_THAT(surface->log, ElementsAre("Cls", "DrawEdge 3,3-397,12 edge 2 flags 15", "clip 1,1-399,14"));
+    surface->log.clear();
+    player->Draw();
+    EXPECT_THAT(surface->log,
+                ElementsAre("no clip", "Cls", "DrawEdge 3,3-397,12 edge 2 flags 15", "clip 1,1-399,14"));
+}
+
+} // namespace
+} // namespace audio
