@@ -24,8 +24,8 @@ ALLOWED = {
     "tray": ["platform/basic", "platform/forms", "platform/shell", "resources", "errors"],
     "audio": ["platform/basic", "platform/registry", "platform/share", "platform/mediagraph", "platform/forms",
               "resources", "errors", "data"],
-    "dialogs": ["platform/basic", "platform/share", "platform/jet", "platform/forms", "platform/shell",
-                "resources", "errors", "data"],
+    "dialogs": ["platform/basic", "platform/registry", "platform/share", "platform/jet", "platform/forms",
+                "platform/shell", "resources", "errors", "data"],
     "app": [*PLATFORM, "resources", "errors", "data", "tray", "audio", "dialogs"],
 }
 INCLUDE = re.compile(r'^\s*#\s*include\s+"([^"]+)"', re.MULTILINE)
