@@ -4,6 +4,7 @@
 // Everything that the main window needs from outside, built by the program and handed in: references that
 // outlive the window.
 
+#include "app/HelpCommands.h"
 #include "app/ShareAccess.h"
 #include "audio/ctlAudio.h"
 #include "data/basCommon.h"
@@ -32,6 +33,7 @@ struct MainServices {
     const basic::DateTimeFormat& dateTimeFormat;
     std::function<std::shared_ptr<data::clsConfig>()> newConfig;
     audio::PlayerServices player;
+    HelpServices help;
     ShareAccess shareAccess{};
 };
 

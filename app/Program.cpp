@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "app/Program.h"
 
+#include "app/HelpLook.h"
 #include "app/MessageFiles.h"
 #include "app/OutsideEvents.h"
 #include "data/ShareMappings.h"
@@ -66,7 +67,7 @@ Program::Program(Application& application, SingleInstance& instance)
       m_sound(messageFiles(registry::pathsFromEnvironment(), smbSurroundings()), m_waiter),
       m_audio(m_errorHandler, m_sound.waveOut()), m_trayHosts(QDBusConnection::sessionBus()),
       m_notificationArea(m_windows, m_icons, m_trayHosts), m_areaWatch(m_trayHosts, m_patience),
-      m_main(mainServices()) {
+      m_help(helpLayout(), helpSurroundings()), m_main(mainServices()) {
     connectEvents(instance);
     m_application.reportTo(&m_errorHandler);
 }
@@ -121,7 +122,13 @@ MainServices Program::mainServices() {
             m_dateTimeFormat,
             [this] { return std::make_shared<data::clsConfig>(m_registry, m_messageBoxes, m_errorHandler); },
             playerServices(),
+            helpServices(),
             shareAccess()};
+}
+
+HelpServices Program::helpServices() {
+    return {m_help, QCoreApplication::applicationDirPath(), m_registry,
+            [this](const std::string& path) { m_programs.start(path); }};
 }
 
 audio::PlayerServices Program::playerServices() {

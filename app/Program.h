@@ -33,7 +33,9 @@
 #include "platform/shell/DesktopNotificationArea.h"
 #include "platform/shell/DesktopTrayHosts.h"
 #include "platform/shell/NotificationAreaWatch.h"
+#include "platform/shell/ProgramStarter.h"
 #include "platform/shell/WorkstationWindows.h"
+#include "platform/shell/help/DesktopHelp.h"
 
 namespace app {
 
@@ -55,6 +57,7 @@ private:
     jet::SharingWait sharingWait();
     ShareAccess shareAccess();
     MainServices mainServices();
+    HelpServices helpServices();
     audio::PlayerServices playerServices();
 
     Application& m_application;
@@ -88,6 +91,8 @@ private:
     shell::EventLoopTimer m_patience;
     shell::NotificationAreaWatch m_areaWatch;
     shell::WorkstationWindows m_desktop;
+    shell::help::DesktopHelp m_help;
+    shell::ProgramStarter m_programs;
     TerminationSignals m_signals;
     frmMain m_main;
 };

@@ -78,6 +78,7 @@ frmMain::frmMain(const MainServices& services)
       m_deleteAll({services.common, services.files, services.messageBoxes, m_TabStrip, m_state, *this,
                    [this] { m_ctlAudio.StopPlay(); },
                    [this](std::int32_t ms) { m_services.player.wait.PauseWithEvents(ms); }}),
+      m_helpCommands({services.errorHandler, services.messageBoxes, services.help, *this}),
       m_trayEvents({services.errorHandler, m_mTimer, m_state, *this}),
       m_listEvents({services.errorHandler, m_lsCalls, m_TabStrip, m_ab, m_state, *this}),
       m_messages(services.errorHandler, m_lsCalls, m_TabStrip), m_ctlAudio(services.player) {
@@ -115,6 +116,8 @@ void frmMain::addCommands() {
     m_commands.add("miEDetails", [this] { m_callDetails.ShowDetails(); });
     m_commands.add("miEClear", [this](errors::Procedure& proc) { m_deleteAll(proc); });
     m_commands.add("miESelectAll", [this] { selectAll(); });
+    m_commands.add("miHAbout", [this] { m_helpCommands.showAbout(); });
+    m_commands.add("miHContents", [this] { m_helpCommands.ShowHelp(); });
 }
 
 void frmMain::addPlayerCommands() {

@@ -11,6 +11,7 @@
 #include "app/CallList.h"
 #include "app/Commands.h"
 #include "app/DeleteAll.h"
+#include "app/HelpCommands.h"
 #include "app/ListEvents.h"
 #include "app/MailboxData.h"
 #include "app/MainProcedures.h"
@@ -118,6 +119,7 @@ private:
     Commands m_commands;
     PlayMessage m_playMessage;
     DeleteAll m_deleteAll;
+    HelpCommands m_helpCommands;
     TrayEvents m_trayEvents;
     ListEvents m_listEvents;
     WindowMessages m_messages;

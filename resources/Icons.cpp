@@ -65,6 +65,20 @@ QIcon stepIcon(bool down) {
     return icon(down ? QStringLiteral("next") : QStringLiteral("previous"));
 }
 
+QIcon helpIcon(HelpIcon button) {
+    switch (button) {
+    case HelpIcon::Back:
+        return icon(QStringLiteral("help-back"));
+    case HelpIcon::Forward:
+        return icon(QStringLiteral("help-forward"));
+    case HelpIcon::Start:
+        return icon(QStringLiteral("help-start"));
+    case HelpIcon::Print:
+        return icon(QStringLiteral("help-print"));
+    }
+    return {};
+}
+
 QIcon newCallsPicture() {
     return icon(QStringLiteral("new-calls"));
 }

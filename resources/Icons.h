@@ -19,6 +19,7 @@ inline constexpr std::int32_t kMailboxImage = 1;
 inline constexpr std::int32_t kDetailsWithMessage = 8;
 inline constexpr std::int32_t kDetailsWithoutMessage = 30;
 
+enum class HelpIcon { Back, Forward, Start, Print };
 enum class PlayerIcon { Play, Pause, Stop, Rewind, Forward };
 
 QIcon programIcon();
@@ -28,6 +29,7 @@ QIcon trayIcon();
 QIcon callIcon(std::int32_t smallIcon);
 QIcon mailboxIcon(std::int32_t image);
 QIcon playerIcon(PlayerIcon button);
+QIcon helpIcon(HelpIcon button);
 // Pure green in it is a key colour, to be replaced by who draws it.
 QIcon detailsIcon(std::int32_t picture);
 // The arrow of a button that goes to the next or the previous call.

@@ -13,6 +13,15 @@ bool isModalUp() {
     return QApplication::activeModalWidget() != nullptr;
 }
 
+bool bringModalToFront() {
+    QWidget* const modal = QApplication::activeModalWidget();
+    if (modal == nullptr)
+        return false;
+    modal->raise();
+    modal->activateWindow();
+    return true;
+}
+
 void showNonModal(QWidget& window) {
     if (isModalUp())
         throw basic::RuntimeError(basic::kNonModalWhileModal);

@@ -9,6 +9,9 @@ namespace forms {
 
 bool isModalUp();
 
+// The modal window that is up comes to the front; false when there is none.
+bool bringModalToFront();
+
 // Shows a window without modality; error 401 while a modal window is up.
 void showNonModal(QWidget& window);
 

@@ -47,10 +47,19 @@ void MainWorld::removeShare() const {
 
 void MainWorld::load() {
     window.emplace(
-        MainServices{reportTo, files, common, clipboard, messageBoxes, desktop,
-                     tray::TrayServices{notificationArea, windows, icons}, format,
+        MainServices{reportTo,
+                     files,
+                     common,
+                     clipboard,
+                     messageBoxes,
+                     desktop,
+                     tray::TrayServices{notificationArea, windows, icons},
+                     format,
                      [this] { return std::make_shared<data::clsConfig>(registry, messageBoxes, reportTo); },
-                     playerServices(), shareAccess});
+                     playerServices(),
+                     {help, QCoreApplication::applicationDirPath(), registry,
+                      [this](const std::string& path) { startedPrograms.push_back(path); }},
+                     shareAccess});
     window->Form_Load();
 }
 

@@ -12,6 +12,7 @@
 #include "platform/jet/Engine.h"
 #include "platform/registry/Registry.h"
 #include "platform/share/LocalFileSystemObject.h"
+#include "platform/shell/help/DesktopHelp.h"
 #include "tests/audio/RecordedSound.h"
 #include "tests/audio/SetClock.h"
 #include "tests/data/CallLogFile.h"
@@ -113,6 +114,10 @@ protected:
     std::function<void(std::int32_t)> onSleep = [](std::int32_t) {};
     audio::basAudio audioDevices{reportTo, sound, [this](std::int32_t ms) { onSleep(ms); }};
     std::map<int, tests::CallLogFile> mailboxes;
+    shell::help::DesktopHelp help{
+        {{}, QStringLiteral("Client_Contents.hhc")},
+        {.texts = {}, .icons = {}, .openOutside = [](const QUrl&) {}, .print = [](auto&, auto&) {}}};
+    std::vector<std::string> startedPrograms;
     ShareAccess shareAccess;
     std::optional<frmMain> window;
 };

@@ -31,6 +31,10 @@ const std::array kAll{
     Named{"stop", [] { return playerIcon(PlayerIcon::Stop); }},
     Named{"rewind", [] { return playerIcon(PlayerIcon::Rewind); }},
     Named{"forward", [] { return playerIcon(PlayerIcon::Forward); }},
+    Named{"help back", [] { return helpIcon(HelpIcon::Back); }},
+    Named{"help forward", [] { return helpIcon(HelpIcon::Forward); }},
+    Named{"help start", [] { return helpIcon(HelpIcon::Start); }},
+    Named{"help print", [] { return helpIcon(HelpIcon::Print); }},
 };
 
 QImage drawn(const QIcon& icon, int side, qreal scale = 1, QIcon::Mode mode = QIcon::Normal) {

@@ -1,0 +1,29 @@
+// SPDX-FileCopyrightText: 2026 The qmClient authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "app/HelpCommands.h"
+
+#include "dialogs/frmAbout.h"
+#include "platform/forms/ModalState.h"
+
+namespace app {
+
+// No trap (frmMain, ShowHelp): ignores all errors.
+void HelpCommands::ShowHelp() noexcept {
+    try {
+        m_parts.services.viewer.HtmlHelpA(&m_parts.owner,
+                                          m_parts.services.applicationFolder + u"/Quillamar_Client.chm",
+                                          shell::HH_DISPLAY_TOPIC, QStringLiteral("Client_Welcome.htm"));
+    } catch (...) { // NOLINT(bugprone-empty-catch): stated so for the help
+    }
+}
+
+void HelpCommands::showAbout() {
+    if (forms::bringModalToFront())
+        return;
+    dialogs::frmAbout box(m_parts.errorHandler,
+                          {m_parts.services.registry, m_parts.messageBoxes, m_parts.services.startProgram},
+                          &m_parts.owner);
+    box.exec();
+}
+
+} // namespace app
