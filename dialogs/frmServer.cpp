@@ -51,13 +51,11 @@ void frmServer::Form_Load() {
     m_txtServer->setObjectName(QStringLiteral("txtServer"));
     m_cmdBrowse->setObjectName(QStringLiteral("cmdBrowse"));
     m_cmdBrowse->setText(localText(3756, "Browse Network"));
-    m_cmdBrowse->setAutoDefault(false); // Return in the field means OK
     m_OKButton->setObjectName(QStringLiteral("OKButton"));
     m_OKButton->setText(localText(122, "OK"));
     m_OKButton->setDefault(true);
     m_CancelButton->setObjectName(QStringLiteral("CancelButton"));
     m_CancelButton->setText(localText(114, "Cancel"));
-    m_CancelButton->setAutoDefault(false);
 }
 
 void frmServer::layOut() {

@@ -5,6 +5,7 @@
 #include "platform/share/smb/LogOnRecord.h"
 #include "platform/share/smb/PacketReader.h"
 #include "tools/qmshare/FailedStage.h"
+#include "tools/qmshare/Neighbourhood.h"
 #include "tools/qmshare/SmbUrl.h"
 
 #include <sys/stat.h>
@@ -25,6 +26,11 @@ std::int32_t lastFailure() {
     return errno != 0 ? errno : EACCES;
 }
 
+std::vector<std::byte> firstPage(const std::vector<share::smb::FolderEntry>& entries) {
+    std::size_t taken = 0;
+    return share::smb::encodeFolderPage(entries, taken);
+}
+
 share::OpenMode openMode(const share::smb::Request& request) {
     if (request.mode > static_cast<std::uint8_t>(share::OpenMode::Exclusive))
         share::smb::PacketReader::fail("an unknown way to open a file");
@@ -36,6 +42,8 @@ share::OpenMode openMode(const share::smb::Request& request) {
 share::smb::Response Requests::answer(const Request& request) {
     if (request.verb == Verb::LogOn)
         return logOn(request);
+    if (request.verb == Verb::Browse)
+        return browse(request);
     if (!m_session)
         share::smb::PacketReader::fail("a request before the log-on");
     switch (request.verb) {
@@ -43,6 +51,7 @@ share::smb::Response Requests::answer(const Request& request) {
     case Verb::List:
     case Verb::Open:
     case Verb::Delete:
+    case Verb::Shares:
         return onPath(request);
     default:
         return onHandle(request);
@@ -56,6 +65,14 @@ share::smb::Response Requests::logOn(const Request& request) {
     m_session = std::make_unique<Session>(request.path, static_cast<std::uint16_t>(request.length),
                                           share::smb::decodeLogOn(request.data));
     return {};
+}
+
+// A network that nothing is known of is an empty one.
+share::smb::Response Requests::browse(const Request& request) {
+    m_session.reset(); // the library knows one set of options at a time
+    Response response;
+    response.data = firstPage(Neighbourhood().list(request.path));
+    return response;
 }
 
 share::smb::Response Requests::onPath(const Request& request) {
@@ -77,6 +94,8 @@ Requests::Operation Requests::operationFor(const Request& request) {
         return [this, handle = request.handle, mode = openMode(request)](const std::string& url, Response&) {
             return m_session->files.open(handle, url, mode);
         };
+    case Verb::Shares:
+        return [this](const std::string&, Response& response) { return shares(response); };
     default:
         return [this, force = request.mode != 0](const std::string& url, Response&) {
             return remove(url, force);
@@ -154,6 +173,14 @@ int Requests::stat(const std::string& url, Response& response) {
         return -1;
     response.isFolder = S_ISDIR(status.st_mode);
     response.number = status.st_size > 0 ? static_cast<std::uint64_t>(status.st_size) : 0;
+    return 0;
+}
+
+int Requests::shares(Response& response) {
+    const auto names = sharesOf(m_session->context.get(), m_session->host);
+    if (!names)
+        return -1;
+    response.data = firstPage(*names);
     return 0;
 }
 

@@ -40,12 +40,14 @@ private:
     };
 
     Response logOn(const Request& request);
+    Response browse(const Request& request);
     Response onPath(const Request& request);
     Response onHandle(const Request& request);
     Operation operationFor(const Request& request);
     Response connect(const share::UncPath& path);
     Response connectAndRun(const share::UncPath& path, const Operation& operation);
     int stat(const std::string& url, Response& response);
+    int shares(Response& response);
     int remove(const std::string& url, bool force);
 
     std::unique_ptr<Session> m_session;

@@ -26,9 +26,14 @@ void appendEscaped(std::string& url, std::string_view component) {
 
 } // namespace
 
-std::string shareUrl(std::string_view host, const share::UncPath& path) {
+std::string serverUrl(std::string_view host) {
     std::string url = "smb://";
     appendEscaped(url, host);
+    return url;
+}
+
+std::string shareUrl(std::string_view host, const share::UncPath& path) {
+    std::string url = serverUrl(host);
     url.push_back('/');
     appendEscaped(url, path.share());
     return url;

@@ -11,6 +11,8 @@
 
 namespace qmshare {
 
+// The host itself; the whole network for the empty name.
+std::string serverUrl(std::string_view host);
 // `host` is the name or address under which the path's server is reached.
 std::string smbUrl(std::string_view host, const share::UncPath& path);
 std::string shareUrl(std::string_view host, const share::UncPath& path);

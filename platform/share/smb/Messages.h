@@ -33,8 +33,10 @@ enum class Verb : std::uint8_t {
     Size,      // handle; answers number
     Close,     // handle
     Delete,    // path, mode: 1 deletes a read-only file too
+    Shares,    // path: the server's share IPC$; answers data: a FolderPage of what the server offers
+    Browse,    // path: a workgroup, empty for the workgroups themselves; answers data: a FolderPage
 };
-inline constexpr Verb kLastVerb = Verb::Delete;
+inline constexpr Verb kLastVerb = Verb::Browse;
 
 struct Request {
     Verb verb = Verb::LogOn;

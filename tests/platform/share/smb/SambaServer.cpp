@@ -148,6 +148,23 @@ void SambaServer::kill() {
     while (::waitpid(m_id, nullptr, 0) < 0 && errno == EINTR) {
     }
     m_id = -1;
+    endNamesService();
+}
+
+// Started by smbd to name its shares, and not one of its group.
+void SambaServer::endNamesService() const {
+    std::ifstream file(m_own.path("pid/samba-dcerpcd.pid"));
+    pid_t id = -1;
+    if (!(file >> id) || id <= 1)
+        return;
+    const std::filesystem::path process = "/proc/" + std::to_string(id);
+    const auto isThere = [&] {
+        return contentOf(process / "cmdline").find(m_own.path("smb.conf")) != std::string::npos;
+    };
+    if (!isThere())
+        return;
+    ::kill(id, SIGTERM);
+    waitFor("its service for names does not end", [&] { return !isThere(); });
 }
 
 void SambaServer::pause() {

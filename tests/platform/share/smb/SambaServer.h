@@ -52,6 +52,7 @@ public:
 private:
     void writeConfiguration(const Options& options) const;
     void signal(int number) const;
+    void endNamesService() const;
     void waitUntilItAnswers() const;
     std::vector<pid_t> connections() const;
 

@@ -21,10 +21,11 @@ namespace share::testing {
 class SmbClient {
 public:
     // `host` is where the server called srv01 is reached.
-    explicit SmbClient(std::uint16_t port, std::string host = "127.0.0.1")
+    explicit SmbClient(std::uint16_t port, std::string host = "127.0.0.1",
+                       std::chrono::milliseconds deadline = std::chrono::milliseconds(3000))
         : m_servers(
               {.program = smb::helperProgram(),
-               .deadline = std::chrono::milliseconds(3000),
+               .deadline = deadline,
                .now = [this] { return m_time; },
                .spread = [] { return 0.0; },
                .credentials = [this](const std::string&) { return smb::Credentials::of(user, password); }},
