@@ -21,8 +21,11 @@ QIcon icon(const QString& name) {
 
 namespace resources {
 
+// The drawing for small sizes is the panel's.
 QIcon programIcon() {
-    return icon(QStringLiteral("program"));
+    provideFiles();
+    return QIcon(
+        new SvgIconEngine(QStringLiteral(":/icons/program.svg"), QStringLiteral(":/icons/tray.svg")));
 }
 
 QIcon trayIcon() {

@@ -30,30 +30,36 @@ QPixmap render(const QByteArray& svg, const QSize& size) {
     return drawn;
 }
 
-} // namespace
-
-QByteArray SvgIconEngine::source(QIcon::Mode mode) const {
-    QFile file(m_path);
+QByteArray source(const QString& path, QIcon::Mode mode) {
+    QFile file(path);
     QByteArray svg = file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
     const QByteArray colour = textColour(mode);
-    svg.replace(kInk, colour);
+    svg.replace(SvgIconEngine::kInk, colour);
     if (mode == QIcon::Selected || mode == QIcon::Disabled)
-        svg.replace(kAccent, colour);
+        svg.replace(SvgIconEngine::kAccent, colour);
     return svg;
+}
+
+} // namespace
+
+const QString& SvgIconEngine::pathFor(const QSize& size) const {
+    const bool isSmall = size.width() <= kSmall && size.height() <= kSmall;
+    return isSmall && !m_smallPath.isEmpty() ? m_smallPath : m_path;
 }
 
 QPixmap SvgIconEngine::pixmap(const QSize& size, QIcon::Mode mode, QIcon::State /*state*/) {
     if (size.isEmpty())
         return {};
+    const QString& path = pathFor(size);
     const QString cacheKey = QStringLiteral("%1 %2x%3 %4 %5")
-                                 .arg(m_path)
+                                 .arg(path)
                                  .arg(size.width())
                                  .arg(size.height())
                                  .arg(static_cast<int>(mode))
                                  .arg(QString::fromLatin1(textColour(mode)));
     QPixmap drawn;
     if (!QPixmapCache::find(cacheKey, &drawn)) {
-        drawn = render(source(mode), size);
+        drawn = render(source(path, mode), size);
         QPixmapCache::insert(cacheKey, drawn);
     }
     return drawn;

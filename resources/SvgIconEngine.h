@@ -15,18 +15,23 @@ public:
     static constexpr char kInk[] = "#000001";
     static constexpr char kAccent[] = "#2b7fc4";
 
-    explicit SvgIconEngine(QString path) : m_path(std::move(path)) {}
+    // Up to this many pixels of the device the small drawing is taken, if there is one.
+    static constexpr int kSmall = 32;
+
+    explicit SvgIconEngine(QString path, QString smallPath = {})
+        : m_path(std::move(path)), m_smallPath(std::move(smallPath)) {}
 
     void paint(QPainter* painter, const QRect& rect, QIcon::Mode mode, QIcon::State state) override;
     QPixmap pixmap(const QSize& size, QIcon::Mode mode, QIcon::State state) override;
     QList<QSize> availableSizes(QIcon::Mode mode, QIcon::State state) override;
     QString key() const override { return QStringLiteral("qmClient SVG"); }
-    QIconEngine* clone() const override { return new SvgIconEngine(m_path); }
+    QIconEngine* clone() const override { return new SvgIconEngine(m_path, m_smallPath); }
 
 private:
-    QByteArray source(QIcon::Mode mode) const;
+    const QString& pathFor(const QSize& size) const;
 
     QString m_path;
+    QString m_smallPath;
 };
 
 } // namespace resources

@@ -2,40 +2,20 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "resources/Icons.h"
 
+#include "tests/resources/AllIcons.h"
+
 #include <QApplication>
 #include <QImage>
 #include <QPalette>
 
 #include <gtest/gtest.h>
 
-#include <array>
-#include <functional>
-
 namespace resources {
 namespace {
 
-struct Named {
-    const char* name;
-    std::function<QIcon()> make;
-};
+using testing::Named;
 
-const std::array kAll{
-    Named{"program", programIcon},
-    Named{"tray", trayIcon},
-    Named{"call with message", [] { return callIcon(kCallWithMessage); }},
-    Named{"call without message", [] { return callIcon(kCallWithoutMessage); }},
-    Named{"mailbox", [] { return mailboxIcon(kMailboxImage); }},
-    Named{"new calls", newCallsPicture},
-    Named{"play", [] { return playerIcon(PlayerIcon::Play); }},
-    Named{"pause", [] { return playerIcon(PlayerIcon::Pause); }},
-    Named{"stop", [] { return playerIcon(PlayerIcon::Stop); }},
-    Named{"rewind", [] { return playerIcon(PlayerIcon::Rewind); }},
-    Named{"forward", [] { return playerIcon(PlayerIcon::Forward); }},
-    Named{"help back", [] { return helpIcon(HelpIcon::Back); }},
-    Named{"help forward", [] { return helpIcon(HelpIcon::Forward); }},
-    Named{"help start", [] { return helpIcon(HelpIcon::Start); }},
-    Named{"help print", [] { return helpIcon(HelpIcon::Print); }},
-};
+const auto& kAll = testing::kAllIcons;
 
 QImage drawn(const QIcon& icon, int side, qreal scale = 1, QIcon::Mode mode = QIcon::Normal) {
     return icon.pixmap(QSize(side, side), scale, mode).toImage().convertToFormat(QImage::Format_ARGB32);
@@ -120,6 +100,14 @@ TEST_F(Icons, MarksTakeTheColourOfSelectedText) {
 TEST_F(Icons, ButtonsTakeTheColourOfDisabledText) {
     setColours(Qt::black, Qt::yellow, Qt::red);
     EXPECT_TRUE(uses(drawn(playerIcon(PlayerIcon::Play), 24, 1, QIcon::Disabled), Qt::red));
+}
+
+TEST_F(Icons, TheProgramsMarkHasFewerStrokesWhereItIsSmall) {
+    for (const int side : {16, 24, 32})
+        EXPECT_EQ(drawn(programIcon(), side), drawn(trayIcon(), side)) << side;
+    for (const int side : {48, 64, 256})
+        EXPECT_NE(drawn(programIcon(), side), drawn(trayIcon(), side)) << side;
+    EXPECT_NE(drawn(programIcon(), 24, 2), drawn(trayIcon(), 24, 2)) << "as many pixels as 48";
 }
 
 TEST_F(Icons, PanelsAreOfferedSeveralSizes) {
