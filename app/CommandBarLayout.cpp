@@ -13,14 +13,20 @@ using forms::CommandBar;
 using resources::PlayerIcon;
 using resources::playerIcon;
 
-// The buttons of this band show pictures only.
+// A button that shows a picture only. Nothing can be played before there is a list.
+void addButton(Band& band, const char* name, const char* caption, PlayerIcon picture) {
+    forms::Tool& tool = band.AddTool(name, caption);
+    tool.SetPicture(playerIcon(picture));
+    tool.SetEnabled(false);
+}
+
 void addStatus(CommandBar& ab) {
     Band& band = ab.AddBand("Status", "Status", BandKind::Toolbar);
-    band.AddTool("miSStop", "Tool7").SetPicture(playerIcon(PlayerIcon::Stop));
-    band.AddTool("miSPause", "Tool9").SetPicture(playerIcon(PlayerIcon::Pause));
-    band.AddTool("miSPlay", "Play Message").SetPicture(playerIcon(PlayerIcon::Play));
-    band.AddTool("miSRew", "Tool11").SetPicture(playerIcon(PlayerIcon::Rewind));
-    band.AddTool("miSFwd", "Tool10").SetPicture(playerIcon(PlayerIcon::Forward));
+    addButton(band, "miSStop", "Tool7", PlayerIcon::Stop);
+    addButton(band, "miSPause", "Tool9", PlayerIcon::Pause);
+    addButton(band, "miSPlay", "Play Message", PlayerIcon::Play);
+    addButton(band, "miSRew", "Tool11", PlayerIcon::Rewind);
+    addButton(band, "miSFwd", "Tool10", PlayerIcon::Forward);
     band.AddTool("miSProgress", "Tool13");
     ab.ShowDescriptionsIn(band.AddTool("Tool14", "Tool14"));
 }

@@ -4,6 +4,7 @@
 
 #include "app/CommandBarLayout.h"
 #include "app/LoadCaptions.h"
+#include "app/Shortcuts.h"
 #include "data/ListToClipBoard.h"
 #include "errors/Procedure.h"
 #include "platform/basic/ObjectOf.h"
@@ -24,7 +25,7 @@ namespace {
 
 using resources::localText;
 
-constexpr QSize kFirstSize{640, 420};
+constexpr QSize kFirstSize{760, 460};
 constexpr std::string_view kOptions = "miVOptions";
 
 // Whoever else was handed the connection finds it closed.
@@ -91,8 +92,10 @@ frmMain::frmMain(const MainServices& services)
     m_lsCalls.SetAccessibleName(localText(5010, "Call list"));
     m_TabStrip.SetAccessibleName(localText(5011, "Mailboxes"));
     m_lsCalls.SetMultiSelect(true);
+    m_lsCalls.setFocus();
     resize(kFirstSize);
     layOutCommandBar(m_ab);
+    addShortcuts(m_ab, m_lsCalls);
     addCommands();
     m_messages.attach();
     connect(&m_TabStrip, &forms::TabStrip::Click, this, [this] { m_services.shareAccess.userActs(); });

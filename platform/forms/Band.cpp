@@ -10,6 +10,7 @@
 #include <QMainWindow>
 #include <QMenu>
 #include <QMenuBar>
+#include <QShortcut>
 #include <QToolBar>
 
 #include <algorithm>
@@ -36,10 +37,24 @@ void Band::draw() {
         m_toolBar->setContextMenuPolicy(Qt::PreventContextMenu);
         m_toolBar->setFocusPolicy(Qt::NoFocus);
         m_window.addToolBar(Qt::BottomToolBarArea, m_toolBar);
-    } else if (m_kind != BandKind::MenuBar) {
+    } else if (m_kind == BandKind::MenuBar) {
+        auto* open = new QShortcut(QKeySequence(Qt::Key_F10), m_window.menuBar());
+        connect(open, &QShortcut::activated, this, &Band::openFirstMenu);
+    } else {
         m_menu = new QMenu(&m_window);
         m_menu->setObjectName(toQString(m_name));
     }
+}
+
+// Not every theme lets the bare Alt key open the menu bar, and captions may have no access key.
+void Band::openFirstMenu() {
+    const QList<QAction*> actions = m_window.menuBar()->actions();
+    if (actions.isEmpty())
+        return;
+    m_window.menuBar()->setActiveAction(actions.first());
+    QMenu* menu = actions.first()->menu();
+    if (menu != nullptr && !menu->isEmpty())
+        menu->setActiveAction(menu->actions().first());
 }
 
 void Band::SetCaption(std::string_view caption) {

@@ -52,6 +52,7 @@ Q_SIGNALS:
 
 private:
     void draw();
+    void openFirstMenu();
     void show(Tool& tool);
     void host(Tool& tool, QWidget* former);
     QHBoxLayout& placeOf(Tool& tool);

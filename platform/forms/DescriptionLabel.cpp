@@ -9,7 +9,7 @@ namespace forms {
 namespace {
 
 // The longest descriptions fit, and the player beside it keeps the larger part.
-constexpr int kCharacters = 44;
+constexpr int kCharacters = 58;
 
 } // namespace
 

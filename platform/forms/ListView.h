@@ -62,7 +62,8 @@ Q_SIGNALS:
     // An item was clicked with any button or reached by keyboard; `index` counts from 1.
     void ItemClick(int index);
     void DblClick();
-    // A button of MouseButtons.h; also over the empty part. The context-menu key counts as the right button.
+    // A button of MouseButtons.h; also over the empty part. The context-menu key and Shift+F10 count as the
+    // right button.
     void MouseUp(int button, QPoint globalPos);
 
 private:

@@ -123,6 +123,10 @@ void ReportView::keyPressEvent(QKeyEvent* event) {
         return;
     }
     Q_EMIT userInput();
+    if (event->key() == Qt::Key_F10 && event->modifiers() == Qt::ShiftModifier) {
+        askForMenu(); // the toolkit knows the context-menu key only, which many keyboards lack
+        return;
+    }
     if (event->key() == Qt::Key_Space && m_model.hasCheckBoxes() && currentIndex().isValid()) {
         toggleCheck(currentIndex().row());
         return;
@@ -144,6 +148,10 @@ void ReportView::contextMenuEvent(QContextMenuEvent* event) {
     if (event->reason() != QContextMenuEvent::Keyboard)
         return;
     Q_EMIT userInput();
+    askForMenu();
+}
+
+void ReportView::askForMenu() {
     const QRect row = visualRect(currentIndex()).intersected(viewport()->rect());
     const QPoint where = row.isEmpty() ? viewport()->rect().topLeft() : row.center();
     Q_EMIT mouseUp(kRightButton, viewport()->mapToGlobal(where));

@@ -47,6 +47,7 @@ protected:
 
 private:
     void toggleCheck(int row);
+    void askForMenu();
     bool isStatusLine() const;
     int drawnWidth(int column) const;
     int contentWidth(int column) const;

@@ -7,7 +7,6 @@
 
 #include <QAction>
 #include <QIcon>
-#include <QKeySequence>
 #include <QWidget>
 
 namespace forms {
@@ -42,10 +41,8 @@ void Tool::SetDescription(std::string_view text) {
     renewAction();
 }
 
-bool Tool::Enabled() const {
-    return m_action->isEnabled();
-}
 void Tool::SetEnabled(bool enabled) {
+    m_enabled = enabled;
     m_action->setEnabled(enabled);
 }
 
@@ -59,8 +56,11 @@ void Tool::SetPicture(const QIcon& picture) {
     renewAction();
 }
 
-void Tool::SetShortcut(const QKeySequence& keys) {
-    m_action->setShortcut(keys);
+void Tool::SetShortcuts(const QList<QKeySequence>& keys, QWidget* within) {
+    m_action->setShortcuts(keys);
+    m_action->setShortcutContext(within == nullptr ? Qt::WindowShortcut : Qt::WidgetWithChildrenShortcut);
+    if (within != nullptr)
+        within->addAction(m_action);
 }
 
 void Tool::SetAccessibleName(const QString& name) {

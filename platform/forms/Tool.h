@@ -6,6 +6,8 @@
 // changing one changes no other. Texts are UTF-8, "&" marks the access key of a caption. In a toolbar a tool
 // with a picture shows only that. Owned by its band; user-interface thread.
 
+#include <QKeySequence>
+#include <QList>
 #include <QObject>
 #include <QPointer>
 #include <QString>
@@ -16,7 +18,6 @@
 
 class QAction;
 class QIcon;
-class QKeySequence;
 
 namespace forms {
 
@@ -37,13 +38,15 @@ public:
     // Shown where the window has room for it while the mouse or the menu's cursor is on the tool.
     const std::string& Description() const noexcept { return m_description; }
     void SetDescription(std::string_view text);
-    bool Enabled() const;
+    bool Enabled() const noexcept { return m_enabled; }
     void SetEnabled(bool enabled);
     // Shown pressed. Only the program changes it, a click does not.
     bool Checked() const noexcept { return m_checked; }
     void SetChecked(bool pressed);
     void SetPicture(const QIcon& picture);
-    void SetShortcut(const QKeySequence& keys);
+    // Keys that click the tool; a menu shows the first ones. In the whole window, or while the focus is in
+    // `within`.
+    void SetShortcuts(const QList<QKeySequence>& keys, QWidget* within = nullptr);
     // What assistive programs call a button without a text; the tool tip when there is none.
     void SetAccessibleName(const QString& name);
 
@@ -74,6 +77,7 @@ private:
     std::string m_subBand;
     QString m_accessibleName;
     bool m_inToolbar;
+    bool m_enabled = true; // the toolkit's own flag goes with what is not drawn
     bool m_checked = false;
     QAction* m_action;
     QPointer<QWidget> m_custom;

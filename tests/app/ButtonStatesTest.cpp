@@ -9,7 +9,9 @@
 
 #include <gtest/gtest.h>
 
+#include <array>
 #include <ostream>
+#include <string>
 
 namespace app {
 namespace {
@@ -18,28 +20,51 @@ constexpr int kNothing = 0; // no item is selected
 constexpr int kWithMessage = 1;
 constexpr int kWithoutMessage = 8;
 
-struct Case {
-    const char* name;
-    PlaybackState player; // playing, paused, has a file
-    int selectedIcon;
-    bool playEnabled, playChecked, pauseChecked, othersEnabled;
+constexpr bool o = false;
+constexpr bool I = true;
+
+struct Row {
+    bool isPlaying, isPaused, hasFile, message;
+    const char* buttons; // as buttons() tells them
 };
 
-std::ostream& operator<<(std::ostream& out, const Case& tried) {
-    return out << tried.name;
+const std::array kTruthTable{
+    Row{o, o, o, o, "-----"}, Row{o, o, o, I, "+----"}, Row{o, o, I, o, "X----"}, Row{o, o, I, I, "x----"},
+    Row{o, I, o, o, "--X--"}, Row{o, I, o, I, "+-X--"}, Row{o, I, I, o, "--X--"}, Row{o, I, I, I, "+-X--"},
+    Row{I, o, o, o, "+++++"}, Row{I, o, o, I, "+++++"}, Row{I, o, I, o, "x++++"}, Row{I, o, I, I, "x++++"},
+    Row{I, I, o, o, "++x++"}, Row{I, I, o, I, "++x++"}, Row{I, I, I, o, "++x++"}, Row{I, I, I, I, "++x++"},
+};
+
+std::ostream& operator<<(std::ostream& out, const Row& row) {
+    return out << "playing " << row.isPlaying << ", paused " << row.isPaused << ", file " << row.hasFile
+               << ", message " << row.message;
 }
 
-class ButtonStatesTest : public testing::TestWithParam<Case> {
+class ButtonStatesTest : public testing::Test {
 protected:
     ButtonStatesTest() {
         layOutCommandBar(ab);
         list.ColumnHeaders().Add("", {70});
     }
     void select(int icon) {
+        list.ListItems().Clear();
         forms::ListItem item = list.ListItems().Add("KA", "");
         item.SetSmallIcon(icon);
         if (icon != kNothing)
             list.SetSelectedItem(item);
+    }
+    void update(const PlaybackState& player) {
+        ButtonStates({errors, ab, list, [&] { return player; }}).UpdateButtonStates();
+    }
+    // In the order in which they are set: '+' enabled, 'x' enabled and pressed, '-' disabled, 'X' disabled
+    // and pressed.
+    std::string buttons() {
+        std::string text;
+        for (const char* name : {"miSPlay", "miSStop", "miSPause", "miSRew", "miSFwd"}) {
+            const forms::Tool& tool = button(name);
+            text += tool.Enabled() ? (tool.Checked() ? 'x' : '+') : (tool.Checked() ? 'X' : '-');
+        }
+        return text;
     }
     forms::Tool& button(const char* name) { return ab.Bands(kBandStatus).Tools(name); }
 
@@ -49,39 +74,43 @@ protected:
     forms::ListView list;
 };
 
-TEST_P(ButtonStatesTest, FollowPlayerAndSelection) {
-    const Case& tried = GetParam();
-    select(tried.selectedIcon);
-    ButtonStates({errors, ab, list, [&] { return tried.player; }}).UpdateButtonStates();
-    EXPECT_EQ(button("miSPlay").Enabled(), tried.playEnabled);
-    EXPECT_EQ(button("miSPlay").Checked(), tried.playChecked);
-    EXPECT_EQ(button("miSPause").Checked(), tried.pauseChecked);
-    for (const char* name : {"miSStop", "miSPause", "miSRew", "miSFwd"})
-        EXPECT_EQ(button(name).Enabled(), tried.othersEnabled) << name;
-    for (const char* name : {"miSStop", "miSRew", "miSFwd"})
-        EXPECT_FALSE(button(name).Checked()) << name;
+TEST_F(ButtonStatesTest, FollowEveryCombinationOfPlayerAndSelection) {
+    for (const Row& row : kTruthTable) {
+        select(row.message ? kWithMessage : kNothing);
+        update({row.isPlaying, row.isPaused, row.hasFile});
+        EXPECT_EQ(buttons(), row.buttons) << row;
+    }
 }
 
-INSTANTIATE_TEST_SUITE_P(
-    While, ButtonStatesTest,
-    testing::Values(
-        Case{"NothingIsSelected", {false, false, false}, kNothing, false, false, false, false},
-        Case{"ACallWithoutMessageIs", {false, false, false}, kWithoutMessage, false, false, false, false},
-        Case{"ACallWithMessageIs", {false, false, false}, kWithMessage, true, false, false, false},
-        Case{"Playing", {true, false, true}, kNothing, true, true, false, true},
-        Case{"PlayingWithAnotherCallSelected", {true, false, true}, kWithMessage, true, true, false, true},
-        Case{"PausedAndStillCountedAsPlaying", {true, true, true}, kNothing, true, false, true, true},
-        Case{"PausedAndNotPlaying", {false, true, true}, kNothing, false, false, true, false},
-        Case{"PausedAndNotPlayingWithAMessage", {false, true, true}, kWithMessage, true, false, true, false},
-        Case{"StoppedWithAFile", {false, false, true}, kNothing, false, true, false, false}),
-    [](const auto& tried) { return tried.param.name; });
+TEST_F(ButtonStatesTest, CallWithoutAMessageIsAsIfNothingWereSelected) {
+    for (const Row& row : kTruthTable) {
+        select(kWithoutMessage);
+        update({row.isPlaying, row.isPaused, row.hasFile});
+        if (!row.message) {
+            EXPECT_EQ(buttons(), row.buttons) << row;
+        }
+    }
+}
+
+TEST_F(ButtonStatesTest, PausedPlayIsNotPressedAndEnabledOnlyWhilePlaybackCountsOrAMessageIsSelected) {
+    select(kNothing);
+    update({.isPlaying = false, .isPaused = true, .hasFile = true});
+    EXPECT_FALSE(button("miSPlay").Enabled());
+    update({.isPlaying = true, .isPaused = true, .hasFile = true});
+    EXPECT_TRUE(button("miSPlay").Enabled());
+    select(kWithMessage);
+    update({.isPlaying = false, .isPaused = true, .hasFile = true});
+    EXPECT_TRUE(button("miSPlay").Enabled());
+    EXPECT_FALSE(button("miSPlay").Checked());
+    EXPECT_TRUE(button("miSPause").Checked());
+}
 
 TEST_F(ButtonStatesTest, EveryFlagIsSetAnew) {
     for (const char* name : {"miSStop", "miSPause", "miSPlay", "miSRew", "miSFwd"}) {
         button(name).SetChecked(true);
         button(name).SetEnabled(true);
     }
-    ButtonStates({errors, ab, list, [] { return PlaybackState{}; }}).UpdateButtonStates();
+    update({});
     for (const char* name : {"miSStop", "miSPause", "miSPlay", "miSRew", "miSFwd"}) {
         EXPECT_FALSE(button(name).Checked()) << name;
         EXPECT_FALSE(button(name).Enabled()) << name;
@@ -89,7 +118,7 @@ TEST_F(ButtonStatesTest, EveryFlagIsSetAnew) {
 }
 
 TEST_F(ButtonStatesTest, CopiesInTheMenusAreNeverDisabled) {
-    ButtonStates({errors, ab, list, [] { return PlaybackState{}; }}).UpdateButtonStates();
+    update({});
     for (const int band : {kBandTools, kBandPopup}) {
         EXPECT_TRUE(ab.Bands(band).Tools("miSPlay").Enabled()) << band;
         EXPECT_FALSE(ab.Bands(band).Tools("miSPlay").Checked()) << band;

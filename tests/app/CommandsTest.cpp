@@ -3,6 +3,7 @@
 // The commands of the main window itself, by the names of their tools.
 #include "tests/app/MainWorld.h"
 
+#include <QAction>
 #include <QApplication>
 #include <QClipboard>
 
@@ -57,6 +58,31 @@ TEST_F(CommandsTest, SelectAllOnAnEmptyListDoesNothing) {
     EXPECT_TRUE(errorHandler.reports.empty());
 }
 
+TEST_F(CommandsTest, FirstCommandOfANameRunsAndTheRestAreSkipped) {
+    std::vector<int> ran;
+    Commands commands(errorHandler);
+    commands.add("miFExit", [&] { ran.push_back(1); });
+    commands.add("miFExit", [&] { ran.push_back(2); });
+    commands.add("mifExit", [&] { ran.push_back(3); });
+    commands.ab_ToolClick("miFExit");
+    commands.ab_ToolClick("mifExit");
+    commands.ab_ToolClick("mifexit");
+    EXPECT_EQ(ran, (std::vector<int>{1, 3}));
+}
+
+TEST_F(CommandsTest, ClickOnFindOrFindNextDoesNothing) {
+    configure({12});
+    mailbox(12).append(2);
+    load();
+    window->showWindow();
+    for (const char* name : {"miEFind", "miEFindNext"})
+        window->ab().Bands("mnuEdit").Tools(name).action()->trigger();
+    EXPECT_TRUE(window->isVisible());
+    EXPECT_TRUE(selectedKeys().empty());
+    EXPECT_TRUE(messageBoxes.boxes.empty());
+    EXPECT_TRUE(errorHandler.reports.empty());
+}
+
 TEST_F(CommandsTest, UnknownNamesDoNothing) {
     configure({12});
     mailbox(12).append(1);
@@ -83,6 +109,22 @@ TEST_F(CommandsTest, CopyGivesHeaderEmptyLineAndTheSelectedRows) {
               "\tDate\tCaller ID\tCaller Name\tMessage\t\r\n\r\n"
               "\t2023-03-15 12:00:00\t+4930123456\tlast\t0s\t\r\n"
               "\t2023-03-15 12:00:00\t+4930123456\ttab in name\t3s\t\r\n");
+}
+
+TEST_F(CommandsTest, CopyTakesAHundredThousandCalls) {
+    constexpr int kCalls = 100'000;
+    configure({12});
+    mailbox(12).append(1);
+    load();
+    list().ListItems().Clear();
+    for (int i = 1; i <= kCalls; ++i)
+        list().ListItems().Add("KX" + std::to_string(i), "").SetSubItems(1, "caller " + std::to_string(i));
+    window->ab_ToolClick("miESelectAll");
+    window->ab_ToolClick("miECopy");
+    const QString text = QApplication::clipboard()->text();
+    EXPECT_EQ(text.count(u"\r\n"_qs), kCalls + 2);
+    EXPECT_TRUE(text.endsWith(u"\tcaller 100000\t\t\t\t\r\n"_qs));
+    EXPECT_TRUE(errorHandler.reports.empty());
 }
 
 } // namespace

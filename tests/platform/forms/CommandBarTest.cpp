@@ -7,6 +7,7 @@
 #include <QAction>
 #include <QApplication>
 #include <QLabel>
+#include <QLineEdit>
 #include <QMainWindow>
 #include <QMenu>
 #include <QMenuBar>
@@ -83,6 +84,41 @@ TEST_F(CommandBarTest, AMenuIsReachedByItsAccessKeys) {
     ASSERT_TRUE(menu.isVisible());
     QTest::keyClick(&menu, Qt::Key_E);
     EXPECT_THAT(clicked, ElementsAre(&ab.Bands("mnuFile").Tools("miFExit")));
+}
+
+TEST_F(CommandBarTest, F10OpensTheFirstMenu) {
+    QApplication::setActiveWindow(&window);
+    QTest::keyClick(&window, Qt::Key_F10);
+    QMenu& menu = *ab.Bands("mnuFile").menu();
+    ASSERT_TRUE(menu.isVisible());
+    QTest::keyClick(&menu, Qt::Key_Down);
+    QTest::keyClick(&menu, Qt::Key_Return);
+    EXPECT_THAT(clicked, ElementsAre(&ab.Bands("mnuFile").Tools("miFExit")));
+}
+
+TEST_F(CommandBarTest, AShortcutClicksItsToolFromTheWholeWindow) {
+    Tool& exit = ab.Bands("mnuFile").Tools("miFExit");
+    exit.SetShortcuts({Qt::CTRL | Qt::Key_Q, Qt::Key_F4});
+    QApplication::setActiveWindow(&window);
+    QTest::keyClick(&window, Qt::Key_Q, Qt::ControlModifier);
+    QTest::keyClick(&window, Qt::Key_F4);
+    EXPECT_THAT(clicked, ElementsAre(&exit, &exit));
+}
+
+TEST_F(CommandBarTest, AShortcutMayBeGoodForOneWidgetOnly) {
+    auto* list = new QLineEdit;
+    ab.SetClientAreaControl(list);
+    Tool& play = ab.Bands("mnuFile").Tools("miSPlay");
+    play.SetShortcuts({Qt::Key_Return}, list);
+    Tool& stop = ab.Bands("Status").Tools("miSStop");
+    QCoreApplication::processEvents();
+    QApplication::setActiveWindow(&window);
+    button(stop).setFocus();
+    QTest::keyClick(&button(stop), Qt::Key_Return);
+    EXPECT_THAT(clicked, IsEmpty());
+    list->setFocus();
+    QTest::keyClick(list, Qt::Key_Return);
+    EXPECT_THAT(clicked, ElementsAre(&play));
 }
 
 TEST_F(CommandBarTest, FlagsChangeOnlyOneOccurrence) {
@@ -177,6 +213,14 @@ TEST_F(CommandBarTest, AHostedWidgetStretchesAndComesAndGoes) {
     place.SetCustom(&player);
     place.SetCustom(&player);
     EXPECT_TRUE(player.isVisible());
+}
+
+TEST_F(CommandBarTest, AToolThatHostsAWidgetStaysEnabled) {
+    QLabel player;
+    Tool& place = ab.Bands("Status").Tools("miSProgress");
+    place.SetCustom(&player);
+    EXPECT_TRUE(place.Enabled());
+    place.SetCustom(nullptr);
 }
 
 TEST_F(CommandBarTest, AHostedWidgetThatWentElsewhereIsTakenBack) {

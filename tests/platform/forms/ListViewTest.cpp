@@ -140,6 +140,15 @@ TEST_F(ListViewTest, TheContextMenuKeyIsTheRightButtonOnTheFocusedItem) {
     EXPECT_EQ(view().indexAt(inRow).row(), 1);
 }
 
+TEST_F(ListViewTest, ShiftF10IsTheRightButtonOnTheFocusedItem) {
+    fill(3);
+    click(2);
+    events.clear();
+    QTest::keyClick(&view(), Qt::Key_F10, Qt::ShiftModifier);
+    EXPECT_THAT(events, ElementsAre("MouseUp 2"));
+    EXPECT_EQ(view().indexAt(view().viewport()->mapFromGlobal(mouseUpAt)).row(), 1);
+}
+
 TEST_F(ListViewTest, ADoubleClickIsToldAndItsSecondReleaseIsNoClick) {
     fill(2);
     click(2);
