@@ -17,6 +17,13 @@ IndexEntry IndexEntry::make(const KeyBytes& key, RowPointer row) {
     return entry;
 }
 
+RowPointer IndexEntry::row() const {
+    PageNumber page = 0;
+    for (std::size_t at = bytes.size() - kRowSize; at + 1 < bytes.size(); ++at)
+        page = page << 8U | static_cast<std::uint8_t>(bytes[at]);
+    return {page, static_cast<std::uint8_t>(bytes.back())};
+}
+
 std::size_t IndexNode::prefixLength() const {
     if (entries.size() < 2)
         return 0;

@@ -16,6 +16,7 @@ struct IndexEntry {
     PageNumber child = 0; // nodes only: the page whose last entry this one repeats
 
     static IndexEntry make(const KeyBytes& key, RowPointer row);
+    RowPointer row() const;
     std::string_view key() const { return std::string_view(bytes).substr(0, bytes.size() - kRowSize); }
 
     static constexpr std::size_t kRowSize = 4;

@@ -2,10 +2,12 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "platform/jet/sql/TableRows.h"
 
+#include "platform/basic/RuntimeError.h"
 #include "platform/jet/TablePages.h"
 #include "platform/jet/UsageMap.h"
 #include "platform/jet/sql/Binder.h"
 #include "platform/jet/sql/FieldType.h"
+#include "platform/jet/sql/KeyLookup.h"
 #include "platform/jet/sql/RowOrder.h"
 
 #include <algorithm>
@@ -102,6 +104,49 @@ std::vector<PageNumber> TableRows::pagesToRead(PageReader& reader) const {
 }
 
 void TableRows::read(PageReader& reader) {
+    if (!readByIndex(reader))
+        readAll(reader);
+    m_access->pages->detach();
+}
+
+// An index saves reading the table, no more: whatever is wrong with it, the rows themselves tell. One that
+// does not know a key is not believed either, since not every key that another program makes is known here.
+bool TableRows::readByIndex(PageReader& reader) {
+    if (m_select->condition == nullptr)
+        return false;
+    const IndexedText wanted = indexedText(m_definition, *m_select->condition);
+    if (wanted.index == nullptr)
+        return false;
+    try {
+        m_access.emplace(std::make_unique<StatementPages>(reader, std::vector<PageNumber>()), m_definition,
+                         m_select->table);
+        return takeRows(rowsByKey(*m_access->pages, m_definition, m_select->table, wanted));
+    } catch (const basic::RuntimeError& error) {
+        if (error.number() != basic::kProviderFailure)
+            throw;
+        return false;
+    }
+}
+
+bool TableRows::takeRows(const std::vector<RowPointer>& candidates) {
+    RowOrder order(m_select->order);
+    m_rows.clear();
+    for (const RowPointer& candidate : candidates) {
+        if (!m_access->scan.moveTo(candidate))
+            return false;
+        const RowView& row = m_access->scan.row();
+        if (!m_access->evaluator.holds(*m_select->condition, row))
+            continue;
+        checkRow(row);
+        order.add(m_access->decoder, row);
+        m_rows.push_back(candidate);
+    }
+    order.apply(m_rows);
+    return !m_rows.empty();
+}
+
+void TableRows::readAll(PageReader& reader) {
+    m_rows.clear();
     m_access.emplace(std::make_unique<StatementPages>(reader, pagesToRead(reader)), m_definition,
                      m_select->table);
     RowOrder order(m_select->order);
@@ -114,7 +159,6 @@ void TableRows::read(PageReader& reader) {
         m_rows.push_back(m_access->scan.position());
     }
     order.apply(m_rows);
-    m_access->pages->detach();
 }
 
 // Decodes what is cheap and finds what is not.

@@ -52,6 +52,9 @@ private:
     void needColumnsOf(const Expression& expression);
     void need(const Column& column);
     std::vector<PageNumber> pagesToRead(PageReader& reader) const;
+    bool readByIndex(PageReader& reader);
+    bool takeRows(const std::vector<RowPointer>& candidates);
+    void readAll(PageReader& reader);
     void checkRow(const RowView& row);
     void goTo(std::size_t row);
 
