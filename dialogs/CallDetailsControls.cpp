@@ -21,7 +21,8 @@ using resources::localText;
 
 constexpr int kPictureSize = 32;
 constexpr int kDetailLines = 5;
-constexpr int kLineLength = 48; // characters of usual width
+constexpr int kLineLength = 60; // characters of usual width
+constexpr int kSpacing = 8;
 
 QLabel* plainLabel(const QString& shown = {}) {
     auto* label = new QLabel(shown);
@@ -78,12 +79,13 @@ void CallDetailsControls::addPage() {
     auto* grid = new QGridLayout(&page);
     picType = new forms::PictureBox;
     picType->setFixedSize(kPictureSize, kPictureSize);
-    grid->addWidget(picType, 0, 0, 4, 1, Qt::AlignTop);
     lblDate = addField(*grid, Label2, localText(131, "Date:"));
     lblCallID = addField(*grid, Label3, localText(130, "Call ID:"));
     lblCaller = addField(*grid, Label1, localText(132, "Caller:"));
     lblMessage = addField(*grid, Label7, localText(137, "Message:"));
+    grid->addWidget(picType, 0, 0, grid->rowCount(), 1, Qt::AlignTop);
     addDetails(*grid);
+    grid->setHorizontalSpacing(kSpacing);
     grid->setColumnStretch(2, 1);
     lblNoEvent = plainLabel();
     lblNoEvent->setWordWrap(true);
