@@ -95,11 +95,15 @@ class Client:
 
     # Player
 
-    def double_click(self, row):
-        """On the date of a row, which is the first to show a text."""
+    def place_of(self, row):
+        """The middle of a row's date, which is the first to show a text, on the screen."""
         x, y, width, height = self.desktop.reader().ask('cell_rect', where=self._list(), row=row, column=1)
-        window = self.desktop.wait_active(TITLE)
-        self.desktop.click(window.x + x + width // 2, window.y + y + height // 2, double=True)
+        window = self.window()
+        return window.x + x + width // 2, window.y + y + height // 2
+
+    def double_click(self, row):
+        self.desktop.wait_active(TITLE)
+        self.desktop.click(*self.place_of(row), double=True)
 
     def position(self):
         """The player's percentage and what a screen reader says of it."""
