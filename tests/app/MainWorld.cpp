@@ -46,21 +46,32 @@ void MainWorld::removeShare() const {
 }
 
 void MainWorld::load() {
-    window.emplace(
-        MainServices{reportTo,
-                     files,
-                     common,
-                     clipboard,
-                     messageBoxes,
-                     desktop,
-                     tray::TrayServices{notificationArea, windows, icons},
-                     format,
-                     [this] { return std::make_shared<data::clsConfig>(registry, messageBoxes, reportTo); },
-                     playerServices(),
-                     {help, QCoreApplication::applicationDirPath(), registry,
-                      [this](const std::string& path) { startedPrograms.push_back(path); }},
-                     shareAccess});
+    create();
     window->Form_Load();
+}
+
+void MainWorld::create() {
+    window.emplace(MainServices{reportTo,
+                                files,
+                                common,
+                                clipboard,
+                                messageBoxes,
+                                desktop,
+                                tray::TrayServices{notificationArea, windows, icons},
+                                format,
+                                [this] { return newConfig(); },
+                                playerServices(),
+                                {help, QCoreApplication::applicationDirPath(), registry,
+                                 [this](const std::string& path) { startedPrograms.push_back(path); }},
+                                shareAccess});
+}
+
+std::shared_ptr<data::clsConfig> MainWorld::newConfig() {
+    onNewConfig();
+    return {new data::clsConfig(registry, messageBoxes, reportTo), [this](data::clsConfig* config) {
+                const std::unique_ptr<data::clsConfig> released(config);
+                onConfigGone();
+            }};
 }
 
 audio::PlayerServices MainWorld::playerServices() {

@@ -36,6 +36,8 @@ public:
         if (message == failing)
             throw basic::RuntimeError(basic::kInvalidProcedureCall);
         messages.push_back(message);
+        if (onMessage)
+            onMessage(message);
         return true;
     }
     void setMenu(shell::WindowHandle owner, QMenu* shownMenu) override {
@@ -44,6 +46,7 @@ public:
     }
     void trackPopupMenu(shell::WindowHandle) override { ++tracked; }
 
+    std::function<void(std::uint32_t)> onMessage;
     std::vector<std::uint32_t> messages;  // NIM_ADD 0, NIM_MODIFY 1, NIM_DELETE 2, NIM_SETVERSION 4
     std::optional<std::uint32_t> failing; // the message that throws
     QMenu* menu = nullptr;
@@ -73,6 +76,8 @@ protected:
     tests::CallLogFile& mailbox(int id);
     void removeShare() const;
     void load();
+    // The same in two steps.
+    void create();
 
     forms::TabStrip& tabStrip() { return *window->findChild<forms::TabStrip*>(); }
     forms::ListView& list() { return *window->findChild<forms::ListView*>(); }
@@ -85,10 +90,12 @@ protected:
         return registry::RegistryFolder::content(folder.path("registry.reg"));
     }
     audio::PlayerServices playerServices();
+    std::shared_ptr<data::clsConfig> newConfig();
     audio::ctlAudio& player() { return *window->findChild<audio::ctlAudio*>(); }
     void tick() { window->mTimer_ThatTime(); }
     // Only srv01 has a share.
     std::optional<std::string> shareOf(std::string_view server) const {
+        onShare();
         return server == "srv01" ? std::optional(folder.path("share")) : std::nullopt;
     }
 
@@ -118,6 +125,9 @@ protected:
         {{}, QStringLiteral("Client_Contents.hhc")},
         {.texts = {}, .icons = {}, .openOutside = [](const QUrl&) {}, .print = [](auto&, auto&) {}}};
     std::vector<std::string> startedPrograms;
+    std::function<void()> onShare = [] {};      // somebody asks for the server's share
+    std::function<void()> onNewConfig = [] {};  // somebody makes a configuration
+    std::function<void()> onConfigGone = [] {}; // it is released
     ShareAccess shareAccess;
     std::optional<frmMain> window;
 };
