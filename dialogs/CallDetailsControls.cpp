@@ -22,7 +22,7 @@ using resources::localText;
 constexpr int kPictureSize = 32;
 constexpr int kDetailLines = 5;
 constexpr int kLineLength = 60; // characters of usual width
-constexpr int kSpacing = 8;
+constexpr int kSpacing = 4;
 
 QLabel* plainLabel(const QString& shown = {}) {
     auto* label = new QLabel(shown);
@@ -65,7 +65,7 @@ CallDetailsControls::CallDetailsControls(QDialog& dialog) {
     CVTab1 = new forms::CVTab(&dialog);
     column->addWidget(CVTab1, 1);
     addPage();
-    addButtons(dialog);
+    addButtons(*column, dialog);
     nameAll();
     for (QWidget* control : all()) {
         QSizePolicy policy = control->sizePolicy();
@@ -76,7 +76,9 @@ CallDetailsControls::CallDetailsControls(QDialog& dialog) {
 
 void CallDetailsControls::addPage() {
     QWidget& page = CVTab1->AddTab(resources::LoadLocalString(3677, "Detail Information"));
-    auto* grid = new QGridLayout(&page);
+    auto* whole = new QGridLayout(&page);
+    auto* grid = new QGridLayout;
+    whole->addLayout(grid, 0, 0);
     picType = new forms::PictureBox;
     picType->setFixedSize(kPictureSize, kPictureSize);
     lblDate = addField(*grid, Label2, localText(131, "Date:"));
@@ -85,12 +87,13 @@ void CallDetailsControls::addPage() {
     lblMessage = addField(*grid, Label7, localText(137, "Message:"));
     grid->addWidget(picType, 0, 0, grid->rowCount(), 1, Qt::AlignTop);
     addDetails(*grid);
-    grid->setHorizontalSpacing(kSpacing);
+    grid->setHorizontalSpacing(2 * kSpacing);
+    grid->setVerticalSpacing(kSpacing);
     grid->setColumnStretch(2, 1);
     lblNoEvent = plainLabel();
     lblNoEvent->setWordWrap(true);
     lblNoEvent->setAlignment(Qt::AlignCenter);
-    grid->addWidget(lblNoEvent, 0, 0, grid->rowCount(), grid->columnCount());
+    whole->addWidget(lblNoEvent, 0, 0); // over the fields; as a part of their grid it would close its gaps
 }
 
 void CallDetailsControls::addDetails(QGridLayout& grid) {
@@ -107,7 +110,7 @@ void CallDetailsControls::addDetails(QGridLayout& grid) {
     grid.setRowStretch(grid.rowCount() - 1, 1);
 }
 
-void CallDetailsControls::addButtons(QDialog& dialog) {
+void CallDetailsControls::addButtons(QBoxLayout& column, QDialog& dialog) {
     cmdUp = arrowButton(dialog, resources::stepIcon(false), localText(5060, "Previous call"), Qt::Key_Up);
     cmdDown = arrowButton(dialog, resources::stepIcon(true), localText(5061, "Next call"), Qt::Key_Down);
     cmdCopy = new QPushButton(localText(5062, "Copy"), &dialog);
@@ -119,7 +122,7 @@ void CallDetailsControls::addButtons(QDialog& dialog) {
         row->addWidget(button);
     row->addStretch(1);
     row->addWidget(Command1);
-    dialog.layout()->addItem(row);
+    column.addLayout(row);
 }
 
 void CallDetailsControls::nameAll() {

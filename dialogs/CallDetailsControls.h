@@ -13,6 +13,7 @@
 
 #include <vector>
 
+class QBoxLayout;
 class QDialog;
 class QGridLayout;
 class QLabel;
@@ -48,7 +49,7 @@ struct CallDetailsControls {
 private:
     void addPage();
     void addDetails(QGridLayout& grid);
-    void addButtons(QDialog& dialog);
+    void addButtons(QBoxLayout& column, QDialog& dialog);
     void nameAll();
 };
 
