@@ -5,6 +5,7 @@
 #include "resources/StringTable.h"
 #include "tests/app/MainWorld.h"
 
+#include <QCoreApplication>
 #include <QDialog>
 #include <QEvent>
 #include <QMenu>
