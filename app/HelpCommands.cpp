@@ -5,7 +5,18 @@
 #include "dialogs/frmAbout.h"
 #include "platform/forms/ModalState.h"
 
+#include <QScreen>
+
 namespace app {
+namespace {
+
+// A window manager has no place for the dialog of a window that does not show.
+void moveToTheMiddle(QWidget& box) {
+    box.adjustSize();
+    box.move(box.screen()->availableGeometry().center() - box.rect().center());
+}
+
+} // namespace
 
 // No trap (frmMain, ShowHelp): ignores all errors.
 void HelpCommands::ShowHelp() noexcept {
@@ -23,6 +34,8 @@ void HelpCommands::showAbout() {
     dialogs::frmAbout box(m_parts.errorHandler,
                           {m_parts.services.registry, m_parts.messageBoxes, m_parts.services.startProgram},
                           &m_parts.owner);
+    if (!m_parts.owner.isVisible())
+        moveToTheMiddle(box);
     box.exec();
 }
 

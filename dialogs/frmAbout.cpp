@@ -21,7 +21,7 @@ using resources::localText;
 
 constexpr int kLogoSize = 80;
 constexpr qreal kTitleScale = 1.6;
-constexpr int kWarningWidth = 44; // characters in a line
+constexpr int kWarningWidth = 54; // characters in a line
 
 QString title() {
     return forms::toQString(resources::kProductTitle);

@@ -18,9 +18,9 @@ START_SECONDS = 30
 class Client:
     """Runs qmClient on a desktop that was made with accessibility=True and has a tray of the XEmbed kind."""
 
-    def __init__(self, desktop, **how):
+    def __init__(self, desktop, executable=None, **how):
         self.desktop = desktop
-        self.process = desktop.start([program('qmClient')], **how)
+        self.process = desktop.start([executable or program('qmClient')], **how)
         self._half = 1
 
     @property

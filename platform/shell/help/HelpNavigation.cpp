@@ -48,6 +48,7 @@ void HelpNavigation::build(const HelpTexts& texts) {
     m_tvContents->setHeaderHidden(true);
     m_tvContents->setAccessibleName(texts.contents);
     m_lsFound->setAccessibleName(texts.found);
+    m_lsFound->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff); // a title that is too long is cut
     m_pages->addWidget(m_tvContents);
     m_pages->addWidget(m_lsFound);
     auto* layout = new QVBoxLayout(this);
@@ -70,6 +71,7 @@ void HelpNavigation::fillContents() {
         QTreeWidgetItem* parent = parentOf(open, topic.level);
         auto* item = parent ? new QTreeWidgetItem(parent) : new QTreeWidgetItem(m_tvContents);
         item->setText(0, topic.title);
+        item->setToolTip(0, topic.title);
         item->setData(0, kAddressRole, m_book->find(topic.page));
         open.resize(std::min(open.size(), static_cast<std::size_t>(topic.level)));
         open.push_back(item);
@@ -101,6 +103,7 @@ void HelpNavigation::search(const QString& query) {
     for (const std::size_t index : m_search->find(query)) {
         const HelpTopic& topic = m_book->topics()[index];
         auto* item = new QListWidgetItem(topic.title, m_lsFound);
+        item->setToolTip(topic.title);
         item->setData(kAddressRole, m_book->find(topic.page));
     }
     if (m_lsFound->count() == 0)

@@ -13,8 +13,8 @@
 namespace shell::help {
 namespace {
 
-constexpr QSize kFirstSize{860, 600};
-constexpr int kNavigationWidth = 240;
+constexpr QSize kFirstSize{920, 620};
+constexpr int kNavigationWidth = 300;
 
 QAction* addTool(QToolBar& bar, const QString& name, const QString& text, const QIcon& icon,
                  const QList<QKeySequence>& keys) {
