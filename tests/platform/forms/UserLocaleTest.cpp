@@ -39,5 +39,17 @@ TEST(UserLocale, DatesAreWrittenByTheUsersFormat) {
     EXPECT_EQ(basic::toText(date, userDateTimeFormat(kAmerican)), "11/21/2026 3:04:05 PM");
 }
 
+TEST(UserLocale, LongDateAndTimeAreTheLocalesWithoutAZone) {
+    const basic::Date noon{45000.5};
+    EXPECT_EQ(longDateAndTime(noon, QLocale(QLocale::English, QLocale::UnitedStates)),
+              "Wednesday, March 15, 2023 12:00:00 PM");
+    EXPECT_EQ(longDateAndTime(noon, QLocale(QLocale::German, QLocale::Germany)),
+              "Mittwoch, 15. März 2023 12:00:00");
+}
+
+TEST(UserLocale, LongDateOfANumberThatIsNoDateSaysSo) {
+    EXPECT_EQ(longDateAndTime(basic::Date{1e9}, QLocale::c()), "(invalid date)");
+}
+
 } // namespace
 } // namespace forms
