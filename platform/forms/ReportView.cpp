@@ -35,6 +35,22 @@ int buttonNumber(Qt::MouseButton button) {
     }
 }
 
+// A list that gets the focus marks its first item, and the toolkit selects none when a key leads there.
+bool isMove(const QKeyEvent& event) {
+    const bool isPlain = (event.modifiers() & (Qt::ControlModifier | Qt::ShiftModifier)) == 0;
+    switch (event.key()) {
+    case Qt::Key_Home:
+    case Qt::Key_End:
+    case Qt::Key_Up:
+    case Qt::Key_Down:
+    case Qt::Key_PageUp:
+    case Qt::Key_PageDown:
+        return isPlain;
+    default:
+        return false;
+    }
+}
+
 } // namespace
 
 ReportView::ReportView(ListModel& model, QWidget* parent)
@@ -133,8 +149,26 @@ void ReportView::keyPressEvent(QKeyEvent* event) {
     }
     const int before = m_selectionChanges;
     QTreeView::keyPressEvent(event);
+    if (isMove(*event) && isFocusUnselected())
+        setCurrentIndex(currentIndex());
     if (m_selectionChanges != before && currentIndex().isValid())
         Q_EMIT rowClicked(currentIndex().row());
+}
+
+bool ReportView::isFocusUnselected() const {
+    return currentIndex().isValid() && !selectionModel()->isSelected(currentIndex());
+}
+
+// Space selects the item that has the focus, as long as it is not, whatever else the key is good for.
+bool ReportView::event(QEvent* event) {
+    if (event->type() == QEvent::ShortcutOverride && isFocusUnselected()) {
+        const auto& key = static_cast<const QKeyEvent&>(*event);
+        if (key.key() == Qt::Key_Space && key.modifiers() == Qt::NoModifier) {
+            event->accept();
+            return true;
+        }
+    }
+    return QTreeView::event(event);
 }
 
 // Whichever column the mouse went to last: the toolkit would check only from the box's own.

@@ -37,6 +37,7 @@ Q_SIGNALS:
     void mouseUp(int button, QPoint globalPos);
 
 protected:
+    bool event(QEvent* event) override;
     void mousePressEvent(QMouseEvent* event) override;
     void mouseReleaseEvent(QMouseEvent* event) override;
     void mouseDoubleClickEvent(QMouseEvent* event) override;
@@ -46,6 +47,7 @@ protected:
     void changeEvent(QEvent* event) override;
 
 private:
+    bool isFocusUnselected() const;
     void toggleCheck(int row);
     void askForMenu();
     bool isStatusLine() const;

@@ -2,6 +2,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "tests/platform/forms/CallListFixture.h"
 
+#include <QAction>
+#include <QApplication>
+
 #include <gmock/gmock.h>
 
 namespace forms {
@@ -138,6 +141,35 @@ TEST_F(ListViewTest, TheContextMenuKeyIsTheRightButtonOnTheFocusedItem) {
     EXPECT_THAT(events, ElementsAre("MouseUp 2"));
     const QPoint inRow = view().viewport()->mapFromGlobal(mouseUpAt);
     EXPECT_EQ(view().indexAt(inRow).row(), 1);
+}
+
+TEST_F(ListViewTest, HomeSelectsTheFirstItemThatOnlyHadTheFocus) {
+    fill(3);
+    QCoreApplication::processEvents();
+    view().setFocus();
+    view().selectionModel()->setCurrentIndex(view().model()->index(0, 0), QItemSelectionModel::NoUpdate);
+    ASSERT_EQ(selectedKey(), "none");
+    QTest::keyClick(&view(), Qt::Key_Home);
+    EXPECT_EQ(selectedKey(), "K1");
+    EXPECT_THAT(events, ElementsAre("ItemClick 1"));
+}
+
+TEST_F(ListViewTest, SpaceSelectsBeforeItIsAShortcut) {
+    fill(3);
+    QCoreApplication::processEvents();
+    QAction action;
+    action.setShortcut(Qt::Key_Space);
+    int shortcuts = 0;
+    QObject::connect(&action, &QAction::triggered, [&] { ++shortcuts; });
+    list.addAction(&action);
+    QApplication::setActiveWindow(list.window());
+    view().setFocus();
+    view().selectionModel()->setCurrentIndex(view().model()->index(0, 0), QItemSelectionModel::NoUpdate);
+    QTest::keyClick(&view(), Qt::Key_Space);
+    EXPECT_EQ(selectedKey(), "K1");
+    EXPECT_EQ(shortcuts, 0);
+    QTest::keyClick(&view(), Qt::Key_Space);
+    EXPECT_EQ(shortcuts, 1);
 }
 
 TEST_F(ListViewTest, ShiftF10IsTheRightButtonOnTheFocusedItem) {
