@@ -19,11 +19,12 @@ class SceneTest(unittest.TestCase):
     """Each test begins with an empty share; everything ends with the test."""
 
     lang = 'C.UTF-8'
+    size = '1024x768'
 
     def setUp(self):
         stack = contextlib.ExitStack()
         self.addCleanup(stack.close)
-        self.desktop = stack.enter_context(Desktop('1024x768', lang=self.lang, tray='trayer',
+        self.desktop = stack.enter_context(Desktop(self.size, lang=self.lang, tray='trayer',
                                                    accessibility=True))
         self.share = self.desktop.folder / 'share'
         (self.share / 'MBX').mkdir(parents=True)

@@ -8,7 +8,7 @@ from answering import run
 ACCESSIBLE, COMPONENT, TABLE, VALUE = (f'org.a11y.atspi.{name}'
                                        for name in ('Accessible', 'Component', 'Table', 'Value'))
 REGISTRY, ROOT = 'org.a11y.atspi.Registry', '/org/a11y/atspi/accessible/root'
-STATE_SHOWING, STATE_SELECTED, STATE_ENABLED = 25, 23, 8
+STATE_SHOWING, STATE_SELECTED, STATE_FOCUSED, STATE_ENABLED = 25, 23, 12, 8
 SCREEN_COORDINATES = 0
 TABLES = ('table', 'tree', 'tree table')
 
@@ -42,7 +42,8 @@ class Reader:
         bits = low | high << 32
         return {'role': self._role(where), 'name': self._property(where, 'Name'),
                 'showing': bool(bits >> STATE_SHOWING & 1), 'selected': bool(bits >> STATE_SELECTED & 1),
-                'enabled': bool(bits >> STATE_ENABLED & 1), 'where': list(where)}
+                'enabled': bool(bits >> STATE_ENABLED & 1),
+                'focused': bool(bits >> STATE_FOCUSED & 1), 'where': list(where)}
 
     def _walk(self, where, found):
         """Depth first; not into tables, which have a child per cell."""

@@ -190,7 +190,8 @@ class Desktop:
         return self._reader
 
     def objects(self, program, role=None, name=None, showing=True):
-        """What a screen reader finds: dictionaries with role, name, showing, selected, enabled, where."""
+        """What a screen reader finds: dictionaries with role, name, showing, selected, enabled, focused and
+        where."""
         return [o for o in self.reader().ask('tree', pid=program.pid)
                 if role in (None, o['role']) and (name is None or re.search(name, o['name']))
                 and (o['showing'] or not showing)]
