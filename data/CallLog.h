@@ -18,6 +18,8 @@ inline std::string oneCall(std::string_view callID) {
     return std::string("SELECT * FROM CallLog WHERE CallID='").append(callID).append("'");
 }
 
+inline constexpr const char* kMailboxInfo = "SELECT * FROM MailboxInfo WHERE ID=1";
+
 inline constexpr const char* kCallID = "CallID";
 inline constexpr const char* kCallDate = "CallDate";
 inline constexpr const char* kCallerID = "CallerID";
@@ -25,5 +27,7 @@ inline constexpr const char* kCallerName = "CallerName";
 inline constexpr const char* kMessageLength = "MessageLength";
 inline constexpr const char* kMessageLengthS = "MessageLengthS";
 inline constexpr const char* kCallDetails = "CallDetails";
+inline constexpr const char* kMailboxName = "MailboxName";
+inline constexpr const char* kMailboxDescription = "MailboxDescription";
 
 } // namespace data

@@ -60,8 +60,12 @@ std::string connectionString(const std::string& database) {
     return kProvider + database;
 }
 
+std::string mailboxesFolder(std::string_view qmPath) {
+    return std::string(qmPath) + "\\MBX";
+}
+
 std::string mailboxFolder(std::string_view qmPath, std::int32_t mailboxID) {
-    return std::string(qmPath) + "\\MBX\\" + std::to_string(mailboxID);
+    return mailboxesFolder(qmPath) + "\\" + std::to_string(mailboxID);
 }
 
 std::string mailboxDatabase(std::string_view qmPath, std::int32_t mailboxID) {

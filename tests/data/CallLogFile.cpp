@@ -36,6 +36,11 @@ jet::TableSpec callLog() {
             {{"PrimaryKey", {{"ID"}}, true}}};
 }
 
+jet::TableSpec mailboxInfo() {
+    return {
+        "MailboxInfo", {{"ID", jet::ColumnType::Long}, text("MailboxName"), text("MailboxDescription")}, {}};
+}
+
 basic::Variant orNull(const auto& value) {
     return value ? basic::Variant(*value) : basic::Variant(basic::Null{});
 }
@@ -58,6 +63,19 @@ void CallLogFile::create() const {
     const auto file = share::LocalFile::open(m_file.string(), share::OpenMode::Create);
     jet::createDatabase(*file, kCreated);
     jet::createTable(*file, callLog(), kCreated);
+}
+
+void CallLogFile::describeNothing() const {
+    const auto file = share::LocalFile::open(m_file.string(), share::OpenMode::ReadWrite);
+    jet::createTable(*file, mailboxInfo(), kCreated);
+}
+
+void CallLogFile::describe(const std::string& name, const std::optional<std::string>& description) const {
+    describeNothing();
+    const auto file = share::LocalFile::open(m_file.string(), share::OpenMode::ReadWrite);
+    jet::TableWriter writer(*file, "MailboxInfo");
+    writer.insert(std::vector<basic::Variant>{std::int32_t{1}, name, orNull(description)});
+    writer.flush();
 }
 
 void CallLogFile::append(const Call& call) const {

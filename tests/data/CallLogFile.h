@@ -28,6 +28,10 @@ public:
     // An empty log in place of whatever was there.
     void create() const;
     void append(const Call& call) const;
+    // The table in which the mailbox describes itself, to be called once at most.
+    void describe(const std::string& name, const std::optional<std::string>& description) const;
+    // The table without its row.
+    void describeNothing() const;
     // Calls named C1, C2 … going on after those that this object appended before.
     void append(int count);
 
