@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "app/CallList.h"
 
+#include "app/ChosenMailbox.h"
 #include "app/StatusLine.h"
 #include "data/CallLog.h"
 #include "platform/forms/Events.h"
@@ -46,10 +47,13 @@ void CallList::loadOnce() {
     std::vector<data::ColumnDescription> columns;
     proc.step([&] { columns = columnTable(); });
     proc.step([&] { m_parts.list.ListItems().Clear(); });
-    std::shared_ptr<data::clsMailbox> mailbox;
-    proc.step([&] { mailbox = chosenMailbox(*config); });
-    if (mailbox)
-        loadMailbox(proc, *config, *mailbox, columns);
+    std::optional<std::int32_t> mailboxID; // none while several mailboxes have tabs and no tab is selected
+    proc.step([&] {
+        auto& tabs = m_parts.tabStrip;
+        mailboxID = chosenMailbox(tabs.Tabs().Count(), tabs.SelectedItem(), *config);
+    });
+    if (mailboxID)
+        loadMailbox(proc, *config, *mailboxID, columns);
     m_parts.state.listConnection.reset();
     proc.step([] { forms::doEvents(); });
     proc.step([&] { m_parts.main.ChangeItem(); });
@@ -64,12 +68,11 @@ void CallList::showNoMailboxes(errors::Procedure& proc) {
     });
 }
 
-void CallList::loadMailbox(errors::Procedure& proc, const data::clsConfig& config,
-                           const data::clsMailbox& mailbox,
+void CallList::loadMailbox(errors::Procedure& proc, const data::clsConfig& config, std::int32_t mailboxID,
                            const std::vector<data::ColumnDescription>& columns) {
     // Held: the window may be unloaded while a server is waited for.
     std::shared_ptr<jet::Connection> connection;
-    proc.step([&] { connection = m_parts.common.GetMBXCon(mailbox.ID, config); });
+    proc.step([&] { connection = m_parts.common.GetMBXCon(mailboxID, config); });
     if (!connection || !m_parts.state.config)
         return;
     m_parts.state.listConnection = connection;
@@ -86,15 +89,6 @@ void CallList::loadMailbox(errors::Procedure& proc, const data::clsConfig& confi
     const int count = proc.value(0, [&] { return m_parts.list.ListItems().Count(); });
     for (int index = 1; index <= count && proc.running(); ++index)
         proc.step([&] { m_parts.list.ListItems().Item(index).SetGhosted(false); });
-}
-
-// None while several mailboxes have tabs and no tab is selected.
-std::shared_ptr<data::clsMailbox> CallList::chosenMailbox(const data::clsConfig& config) const {
-    const auto& mailboxes = config.Mailboxes;
-    if (m_parts.tabStrip.Tabs().Count() < 2)
-        return mailboxes.at(1);
-    const auto tab = m_parts.tabStrip.SelectedItem();
-    return tab ? mailboxes.at(tab->Key) : nullptr;
 }
 
 } // namespace app

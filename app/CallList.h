@@ -37,9 +37,8 @@ public:
 private:
     void loadOnce();
     void showNoMailboxes(errors::Procedure& proc);
-    void loadMailbox(errors::Procedure& proc, const data::clsConfig& config, const data::clsMailbox& mailbox,
+    void loadMailbox(errors::Procedure& proc, const data::clsConfig& config, std::int32_t mailboxID,
                      const std::vector<data::ColumnDescription>& columns);
-    std::shared_ptr<data::clsMailbox> chosenMailbox(const data::clsConfig& config) const;
 
     Parts m_parts;
     bool m_running = false;
