@@ -9,6 +9,7 @@
 #include "audio/ctlAudio.h"
 #include "data/basCommon.h"
 #include "data/clsConfig.h"
+#include "dialogs/frmOptions.h"
 #include "errors/ErrorHandler.h"
 #include "platform/basic/DateTimeFormat.h"
 #include "platform/forms/Clipboard.h"
@@ -34,6 +35,7 @@ struct MainServices {
     std::function<std::shared_ptr<data::clsConfig>()> newConfig;
     audio::PlayerServices player;
     HelpServices help;
+    dialogs::OptionsServices options;
     ShareAccess shareAccess{};
 };
 

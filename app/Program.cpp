@@ -5,6 +5,7 @@
 #include "app/HelpLook.h"
 #include "app/MessageFiles.h"
 #include "app/OutsideEvents.h"
+#include "app/SearchedShares.h"
 #include "data/ShareMappings.h"
 #include "platform/basic/RuntimeError.h"
 #include "platform/forms/Text.h"
@@ -65,9 +66,11 @@ Program::Program(Application& application, SingleInstance& instance)
       m_common(m_errorHandler, m_files, [this] { return std::make_shared<jet::Connection>(m_engine); }),
       m_values(m_registry, m_messageBoxes),
       m_sound(messageFiles(registry::pathsFromEnvironment(), smbSurroundings()), m_waiter),
-      m_audio(m_errorHandler, m_sound.waveOut()), m_trayHosts(QDBusConnection::sessionBus()),
-      m_notificationArea(m_windows, m_icons, m_trayHosts), m_areaWatch(m_trayHosts, m_patience),
-      m_help(helpLayout(), helpSurroundings()), m_main(mainServices()) {
+      m_audio(m_errorHandler, m_sound.waveOut()),
+      m_mailboxSearch(SearchedShares(m_smbServers, data::ShareMappings(m_registry))),
+      m_browser(m_errorHandler, m_network), m_serverDialog(serverDialogServices()),
+      m_trayHosts(QDBusConnection::sessionBus()), m_notificationArea(m_windows, m_icons, m_trayHosts),
+      m_areaWatch(m_trayHosts, m_patience), m_help(helpLayout(), helpSurroundings()), m_main(mainServices()) {
     connectEvents(instance);
     m_application.reportTo(&m_errorHandler);
 }
@@ -106,6 +109,7 @@ ShareAccess Program::shareAccess() {
             .endWaits =
                 [this] {
                     m_countsAhead.end();
+                    m_mailboxSearch.end();
                     m_waiter.endWaits();
                 },
             .countsAhead = &m_countsAhead};
@@ -123,6 +127,7 @@ MainServices Program::mainServices() {
             [this] { return std::make_shared<data::clsConfig>(m_registry, m_messageBoxes, m_errorHandler); },
             playerServices(),
             helpServices(),
+            dialogs::OptionsServices{m_mailboxSearch, m_serverDialog},
             shareAccess()};
 }
 
@@ -135,6 +140,13 @@ audio::PlayerServices Program::playerServices() {
     return {m_errorHandler, m_messageBoxes, m_files, m_audio, [this] {
                 return std::make_shared<audio::clsWave>(audio::WaveServices{
                     m_errorHandler, m_messageBoxes, m_sound.graphs(), m_audio, m_values, m_clock});
+            }};
+}
+
+dialogs::frmServer::Services Program::serverDialogServices() {
+    return {m_errorHandler, m_common, m_messageBoxes, m_browser, [this](const std::string& path) {
+                m_smbServers.tryNow();
+                return m_files.FolderExists(path);
             }};
 }
 

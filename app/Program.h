@@ -8,6 +8,7 @@
 #include "app/Application.h"
 #include "app/CountsAhead.h"
 #include "app/LastErrors.h"
+#include "app/NoNetwork.h"
 #include "app/ShareWaiter.h"
 #include "app/SingleInstance.h"
 #include "app/TerminationSignals.h"
@@ -15,6 +16,9 @@
 #include "audio/basAudio.h"
 #include "data/basCommon.h"
 #include "data/basRegistry.h"
+#include "dialogs/ServerDialog.h"
+#include "dialogs/clsComBrowser.h"
+#include "dialogs/frmOptions.h"
 #include "errors/MailedReport.h"
 #include "errors/basErrHandling.h"
 #include "errors/frmError.h"
@@ -59,6 +63,7 @@ private:
     MainServices mainServices();
     HelpServices helpServices();
     audio::PlayerServices playerServices();
+    dialogs::frmServer::Services serverDialogServices();
 
     Application& m_application;
     basic::SystemClock m_clock;
@@ -84,6 +89,10 @@ private:
     data::basRegistry m_values;
     mediagraph::SoundSystem m_sound;
     audio::basAudio m_audio;
+    dialogs::MailboxSearch m_mailboxSearch;
+    NoNetwork m_network;
+    dialogs::clsComBrowser m_browser;
+    dialogs::ServerDialog m_serverDialog;
     shell::WindowTable m_windows;
     shell::IconTable m_icons;
     shell::DesktopTrayHosts m_trayHosts;

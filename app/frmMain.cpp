@@ -80,6 +80,7 @@ frmMain::frmMain(const MainServices& services)
                    [this] { m_ctlAudio.StopPlay(); },
                    [this](std::int32_t ms) { m_services.player.wait.PauseWithEvents(ms); }}),
       m_helpCommands({services.errorHandler, services.messageBoxes, services.help, *this}),
+      m_editOptions({services.errorHandler, services.common, services.options, *this, m_state, *this}),
       m_trayEvents({services.errorHandler, m_mTimer, m_state, *this}),
       m_listEvents({services.errorHandler, m_lsCalls, m_TabStrip, m_ab, m_state, *this}),
       m_messages(services.errorHandler, m_lsCalls, m_TabStrip), m_ctlAudio(services.player) {
@@ -119,6 +120,7 @@ void frmMain::addCommands() {
     m_commands.add("miEDetails", [this] { m_callDetails.ShowDetails(); });
     m_commands.add("miEClear", [this](errors::Procedure& proc) { m_deleteAll(proc); });
     m_commands.add("miESelectAll", [this] { selectAll(); });
+    m_commands.add(std::string(kOptions), [this] { m_editOptions.ShowOptions(); });
     m_commands.add("miHAbout", [this] { m_helpCommands.showAbout(); });
     m_commands.add("miHContents", [this] { m_helpCommands.ShowHelp(); });
 }
@@ -155,6 +157,10 @@ void frmMain::Form_Load() {
     if (m_isUnloaded || m_state.exitRequested)
         return;
     proc.step([&] { loadDialogs(); });
+    if (proc.value(false, [&] { return basic::objectOf(config).ServerName.empty(); }))
+        proc.step([&] { m_editOptions.ShowOptions(); });
+    if (m_isUnloaded || m_state.exitRequested)
+        return;
     proc.step([&] { InitData(); });
     proc.step([&] { showIfUnreachable(); });
 }

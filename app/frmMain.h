@@ -11,6 +11,7 @@
 #include "app/CallList.h"
 #include "app/Commands.h"
 #include "app/DeleteAll.h"
+#include "app/EditOptions.h"
 #include "app/HelpCommands.h"
 #include "app/ListEvents.h"
 #include "app/MailboxData.h"
@@ -120,6 +121,7 @@ private:
     PlayMessage m_playMessage;
     DeleteAll m_deleteAll;
     HelpCommands m_helpCommands;
+    EditOptions m_editOptions;
     TrayEvents m_trayEvents;
     ListEvents m_listEvents;
     WindowMessages m_messages;

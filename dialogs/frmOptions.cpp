@@ -71,7 +71,7 @@ void frmOptions::setCaptions() {
     m_controls.txtServer->setAccessibleName(m_controls.Label1->text());
     m_controls.txtInterval->setAccessibleName(m_controls.Label2->text() + u' ' + m_controls.Label3->text());
     m_controls.lsMailboxes->SetAccessibleName(localText(5011, "Mailboxes"));
-    m_controls.lblSearch->setText(localText(5090, "Looking for mailboxes..."));
+    m_controls.lblSearch->setText(localText(5110, "Looking for mailboxes..."));
     m_controls.barSearch->setAccessibleName(m_controls.lblSearch->text());
     m_controls.reserveRoom();
 }

@@ -63,6 +63,7 @@ void MainWorld::create() {
                                 playerServices(),
                                 {help, QCoreApplication::applicationDirPath(), registry,
                                  [this](const std::string& path) { startedPrograms.push_back(path); }},
+                                dialogs::OptionsServices{search, servers},
                                 shareAccess});
 }
 

@@ -13,10 +13,12 @@
 #include "platform/registry/Registry.h"
 #include "platform/share/LocalFileSystemObject.h"
 #include "platform/shell/help/DesktopHelp.h"
+#include "tests/app/OptionsUser.h"
 #include "tests/audio/RecordedSound.h"
 #include "tests/audio/SetClock.h"
 #include "tests/data/CallLogFile.h"
 #include "tests/data/SettingsWorld.h"
+#include "tests/dialogs/PreparedServer.h"
 #include "tests/errors/RecordingErrorHandler.h"
 #include "tests/platform/share/TemporaryFolder.h"
 
@@ -99,6 +101,18 @@ protected:
         return server == "srv01" ? std::optional(folder.path("share")) : std::nullopt;
     }
 
+    share::ShareResolver resolver() const {
+        return {[this](std::string_view server) { return shareOf(server); }, [] { return std::string(); }};
+    }
+
+    // The same share for another thread.
+    share::ShareResolver searched() const {
+        return {[path = folder.path("share")](std::string_view server) {
+                    return server == "srv01" ? std::optional(path) : std::nullopt;
+                },
+                [] { return std::string(); }};
+    }
+
     share::testing::TemporaryFolder folder;
     errors::RecordingErrorHandler errorHandler;
     errors::ErrorHandler& reportTo;
@@ -111,8 +125,7 @@ protected:
     basic::DateTimeFormat format;
     registry::SystemCalls systemCalls;
     registry::Registry registry{registry::RegistryPaths{folder.path("registry.reg"), {}}, systemCalls};
-    share::LocalFileSystemObject files{share::ShareResolver(
-        [this](std::string_view server) { return shareOf(server); }, [] { return std::string(); })};
+    share::LocalFileSystemObject files{resolver()};
     jet::Engine engine{files, [](int) {}, {.tries = 2, .sleep = [](std::chrono::milliseconds) {}}};
     data::basCommon common{reportTo, files, [this] { return std::make_shared<jet::Connection>(engine); }};
     audio::RecordedSound sound;
@@ -128,6 +141,11 @@ protected:
     std::function<void()> onShare = [] {};      // somebody asks for the server's share
     std::function<void()> onNewConfig = [] {};  // somebody makes a configuration
     std::function<void()> onConfigGone = [] {}; // it is released
+    dialogs::PreparedServer servers;
+    dialogs::MailboxSearch search{[this](const std::string&) {
+        return dialogs::SearchedShare{std::make_unique<share::LocalFileSystemObject>(searched()), {}};
+    }};
+    OptionsUser options;
     ShareAccess shareAccess;
     std::optional<frmMain> window;
 };

@@ -1,9 +1,12 @@
 // SPDX-FileCopyrightText: 2026 The qmClient authors
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "tests/app/MainWorld.h"
+#include "tests/app/ScriptedMain.h"
 #include "tests/errors/Provocation.h"
 
 #include <QDialog>
+#include <QPushButton>
+#include <QTest>
 
 #include <filesystem>
 
@@ -28,12 +31,16 @@ public:
 
     using MainWorld::clickPopup;
     using MainWorld::column;
+    using MainWorld::common;
     using MainWorld::configure;
     using MainWorld::files;
     using MainWorld::folder;
     using MainWorld::load;
     using MainWorld::mailbox;
     using MainWorld::notificationArea;
+    using MainWorld::options;
+    using MainWorld::search;
+    using MainWorld::servers;
     using MainWorld::tick;
     using MainWorld::window;
 
@@ -193,6 +200,25 @@ const Provocation kAlertShow{"frmMain", "AlertForm_Show", basic::kNonModalWhileM
                                  world.clickPopup("Label2");
                                  return {world.window->isVisible(), world.window->state().newCallTotal == 0};
                              }};
+
+const Provocation kShowOptions{
+    "frmMain", "ShowOptions", basic::kInvalidProcedureCall, [](Trial& trial) -> Effect {
+        World world(trial);
+        world.configure({});
+        world.load();
+        ScriptedMain main;
+        main.failing = "InitData";
+        trial.repair = [&] { main.failing.clear(); };
+        world.options.action = [](dialogs::frmOptions& dialog) {
+            QTest::qWaitFor(
+                [&] { return dialog.findChild<QPushButton*>(QStringLiteral("cmdOK"))->isEnabled(); });
+            dialog.findChild<QPushButton*>(QStringLiteral("cmdOK"))->click();
+        };
+        EditOptions edit(
+            {trial, world.common, {world.search, world.servers}, *world.window, world.window->state(), main});
+        edit.ShowOptions();
+        return {main.did("InitData")};
+    }};
 
 const Provocation kFormUnload{"frmMain", "Form_Unload", basic::kInvalidProcedureCall,
                               [](Trial& trial) -> Effect {
