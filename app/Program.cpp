@@ -4,6 +4,7 @@
 
 #include "app/HelpLook.h"
 #include "app/MessageFiles.h"
+#include "app/NetworkBrowsing.h"
 #include "app/OutsideEvents.h"
 #include "app/SearchedShares.h"
 #include "data/ShareMappings.h"
@@ -68,6 +69,7 @@ Program::Program(Application& application, SingleInstance& instance)
       m_sound(messageFiles(registry::pathsFromEnvironment(), smbSurroundings()), m_waiter),
       m_audio(m_errorHandler, m_sound.waveOut()),
       m_mailboxSearch(SearchedShares(m_smbServers, data::ShareMappings(m_registry))),
+      m_network(networkTexts(), networkSources(smbSurroundings(), smbAddresses())),
       m_browser(m_errorHandler, m_network), m_serverDialog(serverDialogServices()),
       m_trayHosts(QDBusConnection::sessionBus()), m_notificationArea(m_windows, m_icons, m_trayHosts),
       m_areaWatch(m_trayHosts, m_patience), m_help(helpLayout(), helpSurroundings()), m_main(mainServices()) {

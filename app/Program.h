@@ -8,7 +8,6 @@
 #include "app/Application.h"
 #include "app/CountsAhead.h"
 #include "app/LastErrors.h"
-#include "app/NoNetwork.h"
 #include "app/ShareWaiter.h"
 #include "app/SingleInstance.h"
 #include "app/TerminationSignals.h"
@@ -36,6 +35,7 @@
 #include "platform/shell/DesktopMail.h"
 #include "platform/shell/DesktopNotificationArea.h"
 #include "platform/shell/DesktopTrayHosts.h"
+#include "platform/shell/NetworkBrowser.h"
 #include "platform/shell/NotificationAreaWatch.h"
 #include "platform/shell/ProgramStarter.h"
 #include "platform/shell/WorkstationWindows.h"
@@ -90,7 +90,7 @@ private:
     mediagraph::SoundSystem m_sound;
     audio::basAudio m_audio;
     dialogs::MailboxSearch m_mailboxSearch;
-    NoNetwork m_network;
+    shell::NetworkBrowser m_network;
     dialogs::clsComBrowser m_browser;
     dialogs::ServerDialog m_serverDialog;
     shell::WindowTable m_windows;
