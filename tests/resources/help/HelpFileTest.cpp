@@ -16,6 +16,7 @@
 
 #include <algorithm>
 #include <map>
+#include <ostream>
 #include <set>
 
 namespace shell::help {
@@ -49,6 +50,8 @@ struct Language {
     const char* sources;
     const char* folder;
     resources::Language language;
+
+    friend void PrintTo(const Language& language, std::ostream* out) { *out << language.sources; }
 };
 
 class HelpFileTest : public testing::TestWithParam<Language> {
