@@ -223,6 +223,30 @@ class GermanCommandsTest(CommandsTest):
     language = 'de'
 
 
+class PasteTest(SceneTest):
+    accessibility = False  # nobody reads the list here, which would keep the client busy
+
+    def test_a_hundred_thousand_calls_are_pasted_elsewhere(self):
+        calls = 100_000
+        self.make_mailbox(FIRST, calls)
+        self.write_settings([FIRST], seconds=600)
+        client = self.desktop.start([program('qmClient')])
+        icon = self.desktop.wait_for(self.desktop.tray.icons, 'the icon to dock', 60)[0]
+        self.desktop.click(*icon.center, 3)
+        self.desktop.wait_window(unmanaged=True, pid=client.pid, seconds=60)
+        self.desktop.key('Down', 'Return')
+        self.desktop.wait_active(TITLE, 60)
+
+        def copied():
+            self.desktop.key('ctrl+a', 'ctrl+c')
+            text = pasted(self.desktop)
+            return text if text.count('\r\n') == calls + 2 else None
+        lines = self.desktop.wait_for(copied, 'all calls on the clipboard', 60).split('\r\n')
+        self.assertEqual((lines[1], lines[-1]), ('', ''))
+        self.assertTrue(all(line.count('\t') == 5 for line in lines[2:-1]))
+        self.assertTrue(all(line.startswith('\t') and line.endswith('s\t') for line in lines[2:-1]))
+
+
 def pasted(desktop):
     """The clipboard as another program pastes it; empty while nothing was copied."""
     try:
