@@ -108,6 +108,7 @@ void SmbServer::judge(const Response& response) {
         return;
     case Stage::LogOn:
         m_refused = m_credentials.clone();
+        m_surroundings.refused(m_name);
         break;
     default:
         if (response.failure != ECANCELED)

@@ -35,6 +35,8 @@ public:
         ElapsedTime now = bootTime;
         BackOff::Spread spread;
         CredentialSource credentials;
+        // Told of a server that refuses its user, once for each attempt, on the thread that made it.
+        std::function<void(const std::string& server)> refused = [](const std::string&) {};
     };
 
     SmbServer(std::string name, ServerAddress address, const Surroundings& surroundings);
