@@ -210,8 +210,8 @@ const Provocation kShowOptions{
         main.failing = "InitData";
         trial.repair = [&] { main.failing.clear(); };
         world.options.action = [](dialogs::frmOptions& dialog) {
-            QTest::qWaitFor(
-                [&] { return dialog.findChild<QPushButton*>(QStringLiteral("cmdOK"))->isEnabled(); });
+            static_cast<void>(QTest::qWaitFor(
+                [&] { return dialog.findChild<QPushButton*>(QStringLiteral("cmdOK"))->isEnabled(); }));
             dialog.findChild<QPushButton*>(QStringLiteral("cmdOK"))->click();
         };
         EditOptions edit(
