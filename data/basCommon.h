@@ -41,7 +41,8 @@ private:
 // The provider's connection string for a database.
 std::string connectionString(const std::string& database);
 
-// Below a server's share root: the folder of the mailboxes' folders, the mailbox's folder, its call log, and the sound of one call.
+// Below a server's share root: the folder of the mailboxes' folders, the mailbox's folder, its call log, and
+// the sound of one call.
 std::string mailboxesFolder(std::string_view qmPath);
 std::string mailboxFolder(std::string_view qmPath, std::int32_t mailboxID);
 std::string mailboxDatabase(std::string_view qmPath, std::int32_t mailboxID);
