@@ -22,6 +22,9 @@
 #include "tests/errors/RecordingErrorHandler.h"
 #include "tests/platform/share/TemporaryFolder.h"
 
+#include <QCoreApplication>
+#include <QEvent>
+
 #include <gtest/gtest.h>
 
 #include <map>
@@ -71,6 +74,11 @@ protected:
     MainWorld() : MainWorld(nullptr) {}
     // Failures go to `other` instead of errorHandler.
     explicit MainWorld(errors::ErrorHandler* other) : reportTo(other != nullptr ? *other : errorHandler) {}
+    // What an unloaded window left for later goes before the services that it needs.
+    ~MainWorld() override {
+        window.reset();
+        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    }
 
     // The settings name the server; its share is there unless removeShare() is called.
     void configure(const std::vector<int>& mailboxes, int pollSeconds = 10,
