@@ -51,7 +51,7 @@ struct Language {
     const char* folder;
     resources::Language language;
 
-    friend void PrintTo(const Language& language, std::ostream* out) { *out << language.sources; }
+    friend void PrintTo(const Language& printed, std::ostream* out) { *out << printed.sources; }
 };
 
 class HelpFileTest : public testing::TestWithParam<Language> {
