@@ -29,6 +29,16 @@ QString keyOf(const QString& name) {
     return (isAddress ? name : name.section(u'.', 0, 0)).toLower();
 }
 
+// Capital letters do not come first.
+class NamedItem final : public QTreeWidgetItem {
+public:
+    using QTreeWidgetItem::QTreeWidgetItem;
+
+    bool operator<(const QTreeWidgetItem& other) const override {
+        return text(0).compare(other.text(0), Qt::CaseInsensitive) < 0;
+    }
+};
+
 QString printable(QString text) {
     text.truncate(kLongestRemark);
     for (QChar& c : text)
@@ -62,7 +72,7 @@ void NetworkTree::addComputer(const QString& name, const QString& remark) {
     if (!isNamed(host) || computerCount() >= kMostComputers || m_computers.contains(keyOf(host)))
         return;
     const QString more = printable(remark);
-    auto* item = new QTreeWidgetItem({host, keyOf(more) == keyOf(host) ? QString() : more});
+    auto* item = new NamedItem({host, keyOf(more) == keyOf(host) ? QString() : more});
     item->setIcon(0, style()->standardIcon(QStyle::SP_ComputerIcon));
     addTopLevelItem(item);
     if (m_withShares)
@@ -97,7 +107,7 @@ void NetworkTree::setShares(const QString& computer, const QStringList& shares) 
     for (const QString& share : shares) {
         if (!isNamed(share))
             continue;
-        items.append(new QTreeWidgetItem(QStringList{share}));
+        items.append(new NamedItem(QStringList{share}));
         items.back()->setData(0, kIsShare, true);
         items.back()->setIcon(0, style()->standardIcon(QStyle::SP_DirIcon));
     }

@@ -64,6 +64,9 @@ TEST_F(NetworkDialogTest, ShowsComputersAsTheyAreFoundInTheOrderOfTheirNames) {
     EXPECT_EQ(rows(), QStringList{u"beta"_qs});
     Q_EMIT m_other->found(u"alpha"_qs, u""_qs);
     EXPECT_EQ(rows(), (QStringList{u"alpha"_qs, u"beta"_qs}));
+    Q_EMIT m_other->found(u"SRV01"_qs, u""_qs);
+    Q_EMIT m_other->found(u"Büro"_qs, u""_qs);
+    EXPECT_EQ(rows(), (QStringList{u"alpha"_qs, u"beta"_qs, u"Büro"_qs, u"SRV01"_qs}));
 }
 
 TEST_F(NetworkDialogTest, ShowsThatItSearchesUntilAllSourcesHaveTold) {
