@@ -11,66 +11,22 @@ import unittest
 
 sys.dont_write_bytecode = True
 from client import CONFIG, Client  # noqa: E402
-from desktop import Desktop, DesktopError, wait_until  # noqa: E402
+from desktop import Desktop, wait_until  # noqa: E402
+from options import CANCEL, OK, Options  # noqa: E402
 from samba import Samba  # noqa: E402
 from scene import FIRST, SECOND, SceneTest, run  # noqa: E402
 from site_folder import BIN, SERVER, mailbox_folder, write_settings  # noqa: E402
 
 ARTEFACTS = BIN.parent / 'artefacts' / 'options'
-OPTIONS, CHOICE = '^(Options|Optionen)$', '^(Select Quillamar Server|Quillamar-Server wählen)$'
-OK, CANCEL = '^OK$', '^(Cancel|Abbrechen)$'
+CHOICE = '^(Select Quillamar Server|Quillamar-Server wählen)$'
 # The colours of a dark desktop, as its settings hold them.
 DARK = {'Window': '42,46,50', 'View': '27,30,32', 'Button': '49,54,59', 'Tooltip': '49,54,59'}
 
 
-class Options:
-    """The options dialog as its user sees it."""
-
-    def __init__(self, client):
-        self.client, self.desktop = client, client.desktop
-
-    def window(self):
-        return self.desktop.wait_active(OPTIONS, seconds=15)
-
-    def objects(self, role, name=None):
-        return self.desktop.objects(self.client.process, role, name)
-
-    def list(self):
-        found = [o for role in ('table', 'tree', 'tree table') for o in self.objects(role, '^Mailbox')]
-        if len(found) != 1:
-            raise DesktopError(f'{len(found)} lists of mailboxes instead of one')
-        return found[0]['where']
-
-    def rows(self):
-        count = self.desktop.reader().ask('row_count', where=self.list())
-        return self.desktop.reader().ask('cells', where=self.list(), first=0, count=count)
-
-    def wait_mailboxes(self, numbers, seconds=20):
-        self.window()
-        wait_until(lambda: [row[0] for row in self.rows()] == [str(n) for n in numbers],
-                   f'the mailboxes {numbers}', seconds)
-
-    def tick_with_the_mouse(self, row):
-        x, y, _, height = self.desktop.reader().ask('cell_rect', where=self.list(), row=row, column=0)
-        window = self.window()
-        self.desktop.click(window.x + x + height // 2, window.y + y + height // 2)
-
-    def press(self, button):
-        found = self.objects('push button', button)
-        if len(found) != 1:
-            raise DesktopError(f'{len(found)} buttons {button!r} instead of one')
-        self.desktop.click_object(found[0], self.window())
-
-    def can_confirm(self):
-        return self.objects('push button', OK)[0]['enabled']
-
-    def wait_closed(self):
-        self.desktop.wait_no_window(OPTIONS)
-
-    def picture(self, name):
-        ARTEFACTS.mkdir(parents=True, exist_ok=True)
-        window = self.window()
-        self.desktop.screenshot(ARTEFACTS / f'{name}.png', (window.x, window.y, window.width, window.height))
+def keep_picture(options, name):
+    ARTEFACTS.mkdir(parents=True, exist_ok=True)
+    window = options.window()
+    options.desktop.screenshot(ARTEFACTS / f'{name}.png', (window.x, window.y, window.width, window.height))
 
 
 class OptionsTest(SceneTest):
@@ -116,7 +72,7 @@ class FirstStartTest(OptionsTest):
         options.wait_mailboxes([FIRST, SECOND])
         options.tick_with_the_mouse(0)
         self.desktop.key('Down', 'Down', 'space')  # a click on a box checks it and selects nothing
-        options.picture('chosen')
+        keep_picture(options, 'chosen')
         self.desktop.key('Return')
         options.wait_closed()
         client.open()
@@ -209,7 +165,7 @@ class SmbOptionsTest(OptionsTest):
         options = Options(client)
         options.window()
         self.assertFalse(options.can_confirm())
-        options.picture('searching')
+        keep_picture(options, 'searching')
         options.press(CANCEL)
         options.wait_closed()
         self.samba.go_on()
@@ -255,7 +211,7 @@ class PictureTest(unittest.TestCase):
             client.choose(CONFIG)
             options = Options(client)
             options.wait_mailboxes([FIRST, SECOND])
-            options.picture(name)
+            keep_picture(options, name)
             window = options.window()
             self.assertLessEqual(window.width, 1800)
             self.assertLessEqual(window.height, 1200)

@@ -11,6 +11,7 @@ import unittest
 sys.dont_write_bytecode = True
 from client import CONFIG, X, Client  # noqa: E402
 from desktop import DesktopError, wait_until  # noqa: E402
+from options import OK, Options  # noqa: E402
 from samba import PASSWORD, USER, Samba  # noqa: E402
 from scene import FIRST, SECOND, SceneTest  # noqa: E402
 
@@ -134,7 +135,7 @@ class PasswordTest(SmbScene):
         self.assertEqual(self.samba.log_ons('NT_STATUS_WRONG_PASSWORD'), 0)
 
     def test_a_wrong_password_is_tried_once_and_another_one_when_the_user_acts(self):
-        self.make_mailbox(FIRST, 12)
+        self.add_calls(FIRST, 12)  # with the mailbox's name, which the options look for
         self.write_settings((FIRST,))
         self.write_credentials('wrong')
         client = Client(self.desktop)
@@ -142,6 +143,10 @@ class PasswordTest(SmbScene):
         client.wait_line('A connection to the server could not be established.', seconds=30)
         self.write_credentials(PASSWORD)
         client.choose(CONFIG)
+        options = Options(client)
+        options.wait_mailboxes([FIRST])
+        options.press(OK)
+        options.wait_closed()
         client.wait_rows(12, seconds=30)
         self.assertEqual(self.samba.log_ons('NT_STATUS_WRONG_PASSWORD'), 1)
 
