@@ -3,8 +3,10 @@
 #include "errors/ErrorLog.h"
 
 #include "platform/basic/RuntimeError.h"
+#include "tests/errors/DiskSync.h"
 #include "tests/errors/TemporaryFolder.h"
 
+#include <fcntl.h>
 #include <gtest/gtest.h>
 #include <sys/resource.h>
 #include <sys/stat.h>
@@ -66,10 +68,13 @@ TEST_F(ErrorLogTest, FallsBackWhenTheWorkingDirectoryIsGone) {
 TEST_F(ErrorLogTest, NeverWaitsForAPipeNorFollowsALinkUnderItsName) {
     ASSERT_EQ(::mkfifo(inWorkingFolder().c_str(), 0600), 0);
     log().open().append("one\r\n");
+    const int reader = ::open(inWorkingFolder().c_str(), O_RDONLY | O_NONBLOCK | O_CLOEXEC);
+    log().open().append("one more\r\n");
+    ::close(reader);
     fs::remove(inWorkingFolder());
     fs::create_symlink(m_working.path() / "elsewhere", inWorkingFolder());
     log().open().append("two\r\n");
-    EXPECT_EQ(contentOf(inFallback()), "one\r\ntwo\r\n");
+    EXPECT_EQ(contentOf(inFallback()), "one\r\none more\r\ntwo\r\n");
     EXPECT_FALSE(fs::exists(m_working.path() / "elsewhere"));
 }
 
@@ -84,15 +89,50 @@ TEST_F(ErrorLogTest, WithoutAnyPlaceTheFailureNamesTheFile) {
     EXPECT_THROW(ErrorLog("qmClient.log", "/proc/nowhere").open(), basic::RuntimeError);
 }
 
+// No file of this process grows beyond so many bytes.
+class FileSizeLimit {
+public:
+    explicit FileSizeLimit(rlim_t bytes) {
+        ::signal(SIGXFSZ, SIG_IGN);
+        EXPECT_EQ(::getrlimit(RLIMIT_FSIZE, &m_before), 0);
+        const rlimit limited{bytes, m_before.rlim_max};
+        EXPECT_EQ(::setrlimit(RLIMIT_FSIZE, &limited), 0);
+    }
+    FileSizeLimit(const FileSizeLimit&) = delete;
+    FileSizeLimit& operator=(const FileSizeLimit&) = delete;
+    ~FileSizeLimit() { ::setrlimit(RLIMIT_FSIZE, &m_before); }
+
+private:
+    rlimit m_before{};
+};
+
+std::int32_t numberOfAppend(LogFile& log) {
+    try {
+        log.append("record\r\n");
+    } catch (const basic::RuntimeError& error) {
+        EXPECT_NE(error.description().find("qmClient.log"), std::string::npos) << error.description();
+        return error.number();
+    }
+    return 0;
+}
+
 TEST_F(ErrorLogTest, AWriteThatFailsIsAnErrorAndNotSilence) {
     LogFile log(inWorkingFolder().string());
-    rlimit before{};
-    ASSERT_EQ(::getrlimit(RLIMIT_FSIZE, &before), 0);
-    ::signal(SIGXFSZ, SIG_IGN);
-    const rlimit none{0, before.rlim_max};
-    ASSERT_EQ(::setrlimit(RLIMIT_FSIZE, &none), 0);
-    EXPECT_THROW(log.append("record\r\n"), basic::RuntimeError);
-    ASSERT_EQ(::setrlimit(RLIMIT_FSIZE, &before), 0);
+    const FileSizeLimit none(0);
+    EXPECT_EQ(numberOfAppend(log), basic::kPathFileAccess);
+}
+
+TEST_F(ErrorLogTest, ARecordThatFitsOnlyInPartIsAnErrorAndItsRestIsNotSentAfterIt) {
+    LogFile log(inWorkingFolder().string());
+    const FileSizeLimit some(3);
+    EXPECT_EQ(numberOfAppend(log), basic::kDiskFull);
+    EXPECT_EQ(contentOf(inWorkingFolder()), "rec");
+}
+
+TEST_F(ErrorLogTest, ARecordThatCannotBeWrittenThroughIsAnError) {
+    LogFile log(inWorkingFolder().string());
+    const DiskSync disk(DiskSync::Outcome::Fails);
+    EXPECT_EQ(numberOfAppend(log), basic::kDeviceIoError);
 }
 
 // Appends `count` copies of one long line in a process of its own.

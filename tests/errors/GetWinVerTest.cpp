@@ -33,12 +33,12 @@ struct Row {
 
 TEST(GetWinVer, NamesEverySystemOfTheTable) {
     for (const Row& row : {
-             Row{0, 1, 30, "32s"},  Row{0, 9, 9, "32s"},     Row{1, 4, 0, "95"},    Row{1, 4, 90, "ME"},
-             Row{1, 4, 10, "98"},   Row{1, 4, 89, "98"},     Row{2, 3, 0, "NT3"},   Row{2, 3, 1, "NT3.1"},
-             Row{2, 3, 5, "NT3.5"}, Row{2, 3, 51, "NT3.51"}, Row{2, 3, 2, ""},      Row{2, 4, 0, "NT 4"},
-             Row{2, 4, 77, "NT 4"}, Row{2, 5, 0, "Win2000"}, Row{2, 5, 1, "WinXP"}, Row{2, 5, 2, ""},
-             Row{2, 6, 0, ""},      Row{2, 6, 1, ""},        Row{2, 10, 0, ""},     Row{2, 2, 0, ""},
-             Row{3, 4, 0, ""},      Row{255, 5, 1, ""},
+             Row{0, 1, 30, "32s"},  Row{0, 9, 9, "32s"},   Row{1, 4, 0, "95"},      Row{1, 4, 90, "ME"},
+             Row{1, 3, 0, "95"},    Row{1, 4, 10, "98"},   Row{1, 4, 89, "98"},     Row{2, 3, 0, "NT3"},
+             Row{2, 3, 1, "NT3.1"}, Row{2, 3, 5, "NT3.5"}, Row{2, 3, 51, "NT3.51"}, Row{2, 3, 2, ""},
+             Row{2, 4, 0, "NT 4"},  Row{2, 4, 77, "NT 4"}, Row{2, 5, 0, "Win2000"}, Row{2, 5, 1, "WinXP"},
+             Row{2, 5, 2, ""},      Row{2, 6, 0, ""},      Row{2, 6, 1, ""},        Row{2, 10, 0, ""},
+             Row{2, 2, 0, ""},      Row{3, 4, 0, ""},      Row{255, 5, 1, ""},
          })
         EXPECT_EQ(textOf(row.platform, row.major, row.minor), std::string(row.name) + " Build:2600 ")
             << row.platform << ' ' << row.major << ' ' << row.minor;

@@ -2,11 +2,13 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "errors/basErrHandling.h"
 
+#include "tests/errors/DiskSync.h"
 #include "tests/errors/TemporaryFolder.h"
 
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <stdexcept>
 #include <vector>
 
 namespace errors {
@@ -46,7 +48,11 @@ public:
         m_script.whileShown();
         m_answer = m_script.answer;
     }
-    std::string answer() const override { return m_answer; }
+    std::string answer() const override {
+        if (m_script.failing == "answer")
+            throw std::runtime_error("broken");
+        return m_answer;
+    }
 
 private:
     void note(const std::string& call, std::string_view value) {
@@ -84,6 +90,12 @@ protected:
     basErrHandling m_handler{ErrorLog("qmClient.log", ""), m_clock,
                              [this] { return std::make_unique<ScriptedDialog>(m_script); }};
 };
+
+TEST(ErrorAction, HasTheNumbersOfTheProtocol) {
+    EXPECT_EQ(static_cast<std::int32_t>(ErrorAction::Retry), 1);
+    EXPECT_EQ(static_cast<std::int32_t>(ErrorAction::Ignore), 2);
+    EXPECT_EQ(static_cast<std::int32_t>(ErrorAction::Abort), 3);
+}
 
 TEST_F(basErrHandlingTest, Error401AbortsWithoutRecordOrDialog) {
     m_script.answer = "I";
@@ -129,6 +141,14 @@ TEST_F(basErrHandlingTest, TheRecordIsOnTheDiskAndTheLogOpenWhileTheDialogIsUp) 
     EXPECT_FALSE(logIsOpen());
 }
 
+TEST_F(basErrHandlingTest, TheRecordIsWrittenThroughToTheDiskBeforeTheDialogShows) {
+    const DiskSync disk;
+    std::vector<std::size_t> sizes;
+    m_script.whileShown = [&] { sizes = disk.sizes(); };
+    report();
+    EXPECT_EQ(sizes, std::vector<std::size_t>{sizeof(kRecord) - 1});
+}
+
 TEST_F(basErrHandlingTest, TwoErrorsMakeTwoCompleteRecordsWithoutABlankLineBetween) {
     report();
     report();
@@ -145,6 +165,23 @@ TEST_F(basErrHandlingTest, AnUnwritableLogDoesNotKeepTheDialogAway) {
     fs::create_directory(m_folder.path() / "qmClient.log");
     m_script.answer = "R";
     EXPECT_EQ(report(), ErrorAction::Retry);
+}
+
+TEST_F(basErrHandlingTest, ARecordThatCannotBeWrittenDoesNotKeepTheDialogAway) {
+    const DiskSync disk(DiskSync::Outcome::Fails);
+    m_script.answer = "R";
+    EXPECT_EQ(report(), ErrorAction::Retry);
+}
+
+TEST_F(basErrHandlingTest, AClockThatFailsKeepsNeitherRecordNorDialogAway) {
+    struct BrokenClock final : basic::Clock {
+        basic::CalendarTime now() const override { throw std::runtime_error("no time"); }
+    } clock;
+    m_script.answer = "I";
+    basErrHandling handler{ErrorLog("qmClient.log", ""), clock,
+                           [this] { return std::make_unique<ScriptedDialog>(m_script); }};
+    EXPECT_EQ(handler.ReportError("frmOptions", "Init", 13, "Type mismatch", 0), ErrorAction::Ignore);
+    EXPECT_EQ(logged().substr(0, 21), "***** Error 00013 at:");
 }
 
 TEST_F(basErrHandlingTest, ADialogThatCannotBeMadeAborts) {
@@ -175,6 +212,14 @@ TEST_F(basErrHandlingTest, ADialogThatCannotBeShownAborts) {
     EXPECT_EQ(report(), ErrorAction::Ignore);
     m_script.failing = "show";
     EXPECT_EQ(report(), ErrorAction::Abort) << "the answer of the failure before must not count";
+}
+
+TEST_F(basErrHandlingTest, AnAnswerThatCannotBeReadAborts) {
+    m_script.answer = "I";
+    m_script.failing = "answer";
+    EXPECT_EQ(report(), ErrorAction::Abort);
+    m_script.failing.clear();
+    EXPECT_EQ(report(), ErrorAction::Ignore) << "later failures are asked about again";
 }
 
 TEST_F(basErrHandlingTest, AReportWhileADialogIsUpLeavesItsRecordAndAborts) {
