@@ -4,12 +4,15 @@
 
 #include "errors/ReportText.h"
 #include "platform/basic/RuntimeError.h"
+#include "platform/shell/DesktopMail.h"
 #include "resources/StringTable.h"
+#include "tests/errors/TemporaryFolder.h"
 
 #include <QWidget>
 
 #include <gtest/gtest.h>
 
+#include <cstdlib>
 #include <vector>
 
 namespace errors {
@@ -151,6 +154,16 @@ TEST_F(MailedReportTest, CancelDropsIt) {
 TEST_F(MailedReportTest, WithoutAMailProgramItSaysSoAndAsksNothing) {
     m_course.failing = "CreateItem";
     send(MessageBoxResult::No);
+    EXPECT_EQ(m_course.steps, std::vector<std::string>{m_failure});
+}
+
+TEST_F(MailedReportTest, OnAMachineWithoutMailProgramsThatIsSaidAtOnce) {
+    const std::string before = std::getenv("PATH");
+    const TemporaryFolder empty;
+    ::setenv("PATH", empty.path().c_str(), 1);
+    shell::DesktopMail mail{QString(), {}};
+    MailedReport(mail, m_boxes, m_clock).send(kFields, m_window);
+    ::setenv("PATH", before.c_str(), 1);
     EXPECT_EQ(m_course.steps, std::vector<std::string>{m_failure});
 }
 

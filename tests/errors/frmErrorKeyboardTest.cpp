@@ -3,6 +3,7 @@
 #include "tests/errors/ErrorDialogWorld.h"
 
 #include <QAccessible>
+#include <QClipboard>
 
 #include <set>
 #include <tuple>
@@ -65,6 +66,27 @@ TEST_F(frmErrorTest, AccessKeysAreTheFirstLettersOfTheCaptions) {
     }
 }
 
+class CountingSender final : public ReportSender {
+public:
+    void send(const ReportFields&, QWidget&) override { ++sent; }
+    int sent = 0;
+};
+
+TEST_F(frmErrorTest, AltSSendsInBothLanguages) {
+    CountingSender sender;
+    for (const Language language : {Language::English, Language::German}) {
+        resources::setLanguage(language);
+        const auto dialog = make(&sender);
+        const int before = sender.sent;
+        show(*dialog, [&] {
+            QTest::keyClick(dialog.get(), Qt::Key_S, Qt::AltModifier);
+            EXPECT_TRUE(QTest::qWaitFor([&] { return sender.sent == before + 1; }));
+            EXPECT_TRUE(dialog->isVisible());
+            dialog->close();
+        });
+    }
+}
+
 TEST_F(frmErrorTest, AltDTogglesTheDetails) {
     const auto dialog = make();
     show(*dialog, [&] {
@@ -89,6 +111,34 @@ TEST_F(frmErrorTest, ValuesCanBeSelectedAndCopiedButNotEdited) {
         EXPECT_TRUE(module->isReadOnly());
         module->selectAll();
         EXPECT_EQ(module->selectedText(), QStringLiteral("frmMain - LoadList"));
+        dialog->close();
+    });
+}
+
+TEST_F(frmErrorTest, TheKeyboardCopiesAValueToTheClipboard) {
+    m_state.detailsExpanded = true;
+    const auto dialog = make();
+    show(*dialog, [&] {
+        for (const auto& [name, value] : {std::pair{"txtModule", "frmMain - LoadList"},
+                                          {"txtError", "Overflow\nErrNumber: 6\nErrLine: 120"}}) {
+            auto* field = control<QWidget>(*dialog, name);
+            field->setFocus();
+            QTest::keyClick(field, Qt::Key_A, Qt::ControlModifier);
+            QTest::keyClick(field, Qt::Key_C, Qt::ControlModifier);
+            EXPECT_EQ(forms::fromQString(QApplication::clipboard()->text()), value) << name;
+        }
+        dialog->close();
+    });
+}
+
+TEST_F(frmErrorTest, TheMouseSelectsAWord) {
+    m_state.detailsExpanded = true;
+    const auto dialog = make();
+    show(*dialog, [&] {
+        auto* error = control<QPlainTextEdit>(*dialog, "txtError");
+        const QPoint first = error->cursorRect().center() + QPoint(2, 0);
+        QTest::mouseDClick(error->viewport(), Qt::LeftButton, {}, first);
+        EXPECT_EQ(error->textCursor().selectedText(), QStringLiteral("Overflow"));
         dialog->close();
     });
 }

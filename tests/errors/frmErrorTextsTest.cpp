@@ -1,10 +1,10 @@
 // SPDX-FileCopyrightText: 2026 The qmClient authors
 // SPDX-License-Identifier: GPL-3.0-or-later
+#include "resources/ProductData.h"
 #include "tests/errors/ErrorDialogWorld.h"
 
 #include <QScrollBar>
 
-#include <algorithm>
 #include <vector>
 
 namespace errors {
@@ -31,7 +31,7 @@ TEST_F(frmErrorTest, FieldsTellProgramVersionSystemAndPlace) {
 TEST_F(frmErrorTest, FactsOfThisProgramNameItAndItsVersion) {
     const ProgramFacts facts = programFacts("/usr/bin/qmClient");
     EXPECT_EQ(facts.component, "Quillamar Client (qmClient)");
-    EXPECT_EQ(std::count(facts.version.begin(), facts.version.end(), '.'), 2);
+    EXPECT_EQ(facts.version, resources::kVersion);
     EXPECT_EQ(GetWinVer(facts.getVersionEx).substr(0, 7), " Build:");
 }
 
@@ -118,6 +118,11 @@ TEST_F(frmErrorTest, ALongDescriptionScrollsInsteadOfGrowingTheWindow) {
         const auto* bar = control<QPlainTextEdit>(*dialog, "txtError")->verticalScrollBar();
         EXPECT_GT(bar->maximum(), 0);
         EXPECT_EQ(bar->value(), 0);
+        auto* error = control<QPlainTextEdit>(*dialog, "txtError");
+        error->setFocus();
+        QTest::keyClick(error, Qt::Key_End, Qt::ControlModifier);
+        EXPECT_GT(bar->value(), 0);
+        EXPECT_TRUE(error->viewport()->rect().contains(error->cursorRect()));
         dialog->close();
     });
 }
