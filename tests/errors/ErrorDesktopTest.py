@@ -8,90 +8,17 @@ import email
 import email.policy
 import os
 import pathlib
-import re
 import sys
 import unittest
 import urllib.parse
 
 sys.dont_write_bytecode = True
-sys.path.insert(0, str(pathlib.Path(__file__).resolve().parents[1] / 'desktop'))
+from error_scene import RECORD, ErrorTest, with_damaged_definition  # noqa: E402
 from desktop import wait_until  # noqa: E402
-from scene import FIRST, SECOND, SceneTest  # noqa: E402
+from scene import FIRST, SECOND  # noqa: E402
 
 ARTEFACTS = pathlib.Path(os.environ['QM_BIN']).parent / 'artefacts' / 'errors'
-PAGE = 4096
-RECORD = re.compile(r'\*\*\*\*\* Error (-?[0-9]{5,}) at: [0-9]{4}-[0-9]{2}-[0-9]{2} [0-9]{2}:[0-9]{2}:[0-9]{2}\r\n'
-                    r'  \*\*\* Module:         ([^\r\n]*)\r\n'
-                    r'  \*\*\* Procedure:      ([^\r\n]*)\r\n'
-                    r'  \*\*\* Line Number:    ([0-9]+)\r\n'
-                    r'  \*\*\* Description:    ([^\r\n]*)\r\n')
-
-
-def with_damaged_definition(database):
-    """The database with the definition page of its CallLog overwritten; all other pages are whole."""
-    pages = [database[at:at + PAGE] for at in range(0, len(database), PAGE)]
-    name = 'CallerName'.encode('utf-16-le')
-    found = [number for number, page in enumerate(pages) if page[:2] == b'\x02\x01' and name in page]
-    assert len(found) == 1, found
-    pages[found[0]] = bytes(PAGE)
-    return b''.join(pages)
-
-
-class ErrorTest(SceneTest):
-    def setUp(self):
-        super().setUp()
-        ARTEFACTS.mkdir(parents=True, exist_ok=True)
-        self.tools = self.desktop.folder / 'tools'
-        self.tools.mkdir()
-        self.desktop.env['PATH'] = f'{self.tools}:{self.desktop.env["PATH"]}'
-
-    def break_client(self):
-        """A client that polls a damaged database and says so."""
-        self.client = self.start({FIRST: 12, SECOND: 3})
-        self.sound = self.keep(FIRST)
-        self.replace(FIRST, with_damaged_definition(self.sound))
-        self.wait_button(self.RETRY)
-
-    IGNORE, RETRY, CANCEL, SEND, DETAILS = 'Ignore', 'Try again', 'Cancel', 'Send', 'Details >>'
-
-    def button(self, caption):
-        found = self.desktop.objects(self.client.process, 'push button', f'^{re.escape(caption)}$')
-        window = self.desktop.windows.active()
-        return found[0] if found and window and window.pid == self.client.process.pid else None
-
-    def wait_button(self, caption):
-        return wait_until(lambda: self.button(caption), f'a button {caption!r}', 20)
-
-    def press(self, caption):
-        self.desktop.click_object(self.wait_button(caption), self.desktop.windows.active())
-
-    def log(self):
-        file = self.desktop.folder / 'home' / 'qmClient.log'
-        return file.read_bytes().decode() if file.exists() else ''
-
-    def records(self):
-        return RECORD.findall(self.log())
-
-    def wait_records(self, count):
-        wait_until(lambda: len(self.records()) >= count, f'{count} records in the log', 20)
-
-    def record_calls_of(self, program):
-        """A program of that name first in PATH that keeps what it is given."""
-        record = self.desktop.folder / program
-        script = self.tools / program
-        script.write_text(f"#!/bin/sh\ncat > '{record}.input'\nprintf '%s\\0' \"$@\" > '{record}.new'\n"
-                          f"mv '{record}.new' '{record}.arguments'\n")
-        script.chmod(0o755)
-
-    def called(self, program):
-        return (self.desktop.folder / f'{program}.arguments').exists()
-
-    def call_of(self, program):
-        """Its arguments and its input."""
-        record = self.desktop.folder / f'{program}.arguments'
-        wait_until(record.exists, f'a call of {program}', 20)
-        return (record.read_bytes().decode().split('\0')[:-1],
-                (self.desktop.folder / f'{program}.input').read_bytes())
+ARTEFACTS.mkdir(parents=True, exist_ok=True)
 
 
 class PollTest(ErrorTest):
