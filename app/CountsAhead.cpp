@@ -65,9 +65,7 @@ CountAnswer CountsAhead::countOf(const std::string& database) {
     CountAnswer answer;
     jet::Connection connection(m_engine);
     try {
-        if (!m_files.FileExists(database))
-            return answer;
-        connection.Open(data::connectionString(database));
+        connection.Open(data::connectionString(database)); // fails for one that does not exist, too
     } catch (const std::exception&) { // a mailbox that is not available now, as for everybody
         return answer;
     }

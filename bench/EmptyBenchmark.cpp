@@ -5,10 +5,13 @@
 #include "bench/BenchFiles.h"
 #include "bench/IoCount.h"
 #include "bench/OurTable.h"
+#include "bench/RowByRowDeletion.h"
+#include "platform/share/LocalFile.h"
 
 #include <benchmark/benchmark.h>
 
 #include <filesystem>
+#include <functional>
 #include <stdexcept>
 
 namespace {
@@ -20,21 +23,34 @@ void makeScratch() {
                                std::filesystem::copy_options::overwrite_existing);
 }
 
-void emptyOurs(benchmark::State& state) {
-    bench::OurTable table(bench::folder(), kScratch);
+// `empty` deletes all rows of the scratch file.
+void measure(benchmark::State& state, const std::function<void()>& empty) {
     bench::IoCount io;
     for (auto _ : state) {
         state.PauseTiming();
         makeScratch();
         state.ResumeTiming();
-        io = bench::ioOf([&] { table.deleteAll(); });
-        if (table.count() != 0)
+        io = bench::ioOf(empty);
+        if (bench::OurTable(bench::folder(), kScratch).count() != 0)
             throw std::runtime_error("rows were left");
     }
     state.counters["bytes"] = static_cast<double>(io.bytesWritten);
     state.counters["calls"] = static_cast<double>(io.writeCalls);
 }
 
+void emptyOurs(benchmark::State& state) {
+    measure(state, [] { bench::OurTable(bench::folder(), kScratch).deleteAll(); });
+}
+
+void emptyRowByRow(benchmark::State& state) {
+    measure(state, [] {
+        const auto file =
+            share::LocalFile::open(bench::folder() + "/" + kScratch, share::OpenMode::ReadWrite);
+        bench::deleteRowByRow(*file, "CallLog");
+    });
+}
+
 BENCHMARK(emptyOurs)->Unit(benchmark::kMillisecond);
+BENCHMARK(emptyRowByRow)->Unit(benchmark::kMillisecond);
 
 } // namespace

@@ -18,18 +18,34 @@ std::size_t sizeOfText(const basic::Variant& value, const basic::DateTimeFormat&
 
 } // namespace
 
-OurTable::OurTable(const std::string& folder, const std::string& file)
-    : m_connectionString("Provider=Microsoft.Jet.OLEDB.4.0;Jet OLEDB:Database Locking Mode=1;"
-                         "Data Source=\\\\bench\\Quillamar_0$\\" +
-                         file),
-      m_files(mappedTo(folder)), m_engine(m_files) {}
+std::string connectionTo(const std::string& path) {
+    return "Provider=Microsoft.Jet.OLEDB.4.0;Jet OLEDB:Database Locking Mode=1;Data Source=" + path;
+}
 
-std::int64_t OurTable::count() {
-    jet::Connection connection(m_engine);
-    connection.Open(m_connectionString);
+std::int64_t countCalls(jet::Engine& engine, const std::string& connectionString) {
+    jet::Connection connection(engine);
+    connection.Open(connectionString);
     const auto rows = connection.Execute("SELECT COUNT(*) FROM CallLog");
     return std::get<std::int32_t>(rows->Field(0));
 }
+
+std::size_t readForList(jet::Engine& engine, const std::string& connectionString) {
+    jet::Connection connection(engine);
+    connection.Open(connectionString);
+    const auto rows =
+        connection.Execute("SELECT *, MessageLength & 's' AS MessageLengthS FROM CallLog ORDER BY ID DESC");
+    const basic::DateTimeFormat format;
+    std::size_t total = 0;
+    for (; !rows->eof(); rows->MoveNext()) {
+        for (const char* column : {"CallID", "CallDate", "CallerID", "CallerName", "MessageLengthS"})
+            total += sizeOfText(rows->Field(column), format);
+    }
+    return total;
+}
+
+OurTable::OurTable(const std::string& folder, const std::string& file)
+    : m_connectionString(connectionTo("\\\\bench\\Quillamar_0$\\" + file)), m_files(mappedTo(folder)),
+      m_engine(m_files) {}
 
 void OurTable::deleteAll() {
     jet::Connection connection(m_engine);
@@ -47,20 +63,6 @@ std::size_t OurTable::readAll() {
     std::size_t total = 0;
     for (; !rows->eof(); rows->MoveNext()) {
         for (std::size_t column = 0; column < rows->fieldCount(); ++column)
-            total += sizeOfText(rows->Field(column), format);
-    }
-    return total;
-}
-
-std::size_t OurTable::readForList() {
-    jet::Connection connection(m_engine);
-    connection.Open(m_connectionString);
-    const auto rows =
-        connection.Execute("SELECT *, MessageLength & 's' AS MessageLengthS FROM CallLog ORDER BY ID DESC");
-    const basic::DateTimeFormat format;
-    std::size_t total = 0;
-    for (; !rows->eof(); rows->MoveNext()) {
-        for (const char* column : {"CallID", "CallDate", "CallerID", "CallerName", "MessageLengthS"})
             total += sizeOfText(rows->Field(column), format);
     }
     return total;
