@@ -19,6 +19,10 @@ constexpr std::chrono::milliseconds kLongestTurn{20'000};
 // A new one is quicker than finding out.
 constexpr std::chrono::milliseconds kLongestIdle{90'000};
 
+bool isRefusedShare(const Response& response) {
+    return response.stage == Stage::Share && (response.failure == EACCES || response.failure == EPERM);
+}
+
 } // namespace
 
 SmbServer::SmbServer(std::string name, ServerAddress address, const Surroundings& surroundings)
@@ -28,9 +32,11 @@ SmbServer::SmbServer(std::string name, ServerAddress address, const Surroundings
 Response SmbServer::call(const Request& request, Waiter& waiter, std::string_view what) {
     const Turn turn(m_turns, waiter, kLongestTurn);
     forgetIfAsked();
-    if (m_refused || m_backOff.isPausing())
+    if (m_isRefused || m_backOff.isPausing())
         throw failure(m_lastFailure, what, request.path);
     startHelper(waiter);
+    if (m_isRefused)
+        throw failure(m_lastFailure, what, request.path);
     Response response = m_helper ? exchange(request, waiter) : m_lastFailure;
     judge(response);
     if (response.stage != Stage::None)
@@ -38,20 +44,24 @@ Response SmbServer::call(const Request& request, Waiter& waiter, std::string_vie
     return response;
 }
 
+// Accounts are locked after a few wrong passwords: a click is no reason to try the same one again.
 void SmbServer::forgetIfAsked() {
     const bool anew = m_logOnAnew.exchange(false);
     if (!m_tryNow.exchange(false) && !anew)
         return;
     m_backOff.succeeded();
-    if (m_refused)
-        forgetRefusal(anew);
+    if (anew)
+        m_surroundings.refusals->forget(m_name);
+    if ((m_isRefused || m_isShareRefused) && (anew || isSomebodyElse()))
+        forgetRefusal();
 }
 
-// Accounts are locked after a few wrong passwords: a click is no reason to try the same one again.
-void SmbServer::forgetRefusal(bool evenOfTheSame) {
-    if (!evenOfTheSame && m_surroundings.credentials(m_name) == *m_refused)
-        return;
-    m_refused.reset();
+bool SmbServer::isSomebodyElse() {
+    return m_surroundings.credentials(m_name) != m_credentials;
+}
+
+void SmbServer::forgetRefusal() {
+    m_isRefused = m_isShareRefused = false;
     m_helper.reset();
 }
 
@@ -61,6 +71,11 @@ void SmbServer::startHelper(Waiter& waiter) {
     if (m_helper)
         return;
     m_credentials = m_surroundings.credentials(m_name);
+    if (m_surroundings.refusals->knows(m_name, m_credentials)) {
+        m_isRefused = true;
+        m_lastFailure = {.stage = Stage::LogOn, .failure = EACCES};
+        return;
+    }
     m_helper = std::make_unique<HelperProcess>(m_surroundings.program);
     Request logOn{.verb = Verb::LogOn, .length = m_address.port, .path = m_address.host};
     logOn.data = encodeLogOn(m_credentials);
@@ -103,14 +118,18 @@ void SmbServer::judge(const Response& response) {
     case Stage::None:
     case Stage::Path:
         m_backOff.succeeded();
+        m_isShareRefused = false;
         return;
     case Stage::Handle: // found out without asking the server
         return;
     case Stage::LogOn:
-        m_refused = m_credentials.clone();
+        m_isRefused = true;
+        m_surroundings.refusals->note(m_name, m_credentials);
         m_surroundings.refused(m_name);
         break;
     default:
+        if (isRefusedShare(response) && !std::exchange(m_isShareRefused, true))
+            m_surroundings.refused(m_name);
         if (response.failure != ECANCELED)
             m_backOff.failed();
         break;

@@ -4,13 +4,14 @@
 // One server as the client sees it: asks its qmshare process, starts it when it is first needed and again
 // when it ended, kills it when an answer does not come in time. A server that does not answer is left alone
 // for growing pauses, in which requests fail at once; one that refused its user is not asked again with the
-// same credentials. Threads may share it: requests go one after the other. Everything handed in must
-// outlive it.
+// same credentials, whoever of the program was refused. Threads may share it: requests go one after the
+// other. Everything handed in must outlive it.
 
 #include "platform/share/smb/BackOff.h"
 #include "platform/share/smb/Credentials.h"
 #include "platform/share/smb/HelperProcess.h"
 #include "platform/share/smb/Messages.h"
+#include "platform/share/smb/Refusals.h"
 #include "platform/share/smb/ServerAddress.h"
 #include "platform/share/smb/Turn.h"
 
@@ -35,8 +36,10 @@ public:
         ElapsedTime now = bootTime;
         BackOff::Spread spread;
         CredentialSource credentials;
-        // Told of a server that refuses its user, once for each attempt, on the thread that made it.
+        // Told of a server that refuses its user, or refuses him the share, on the thread that found out:
+        // once for each user and password.
         std::function<void(const std::string& server)> refused = [](const std::string&) {};
+        std::shared_ptr<Refusals> refusals = std::make_shared<Refusals>();
     };
 
     SmbServer(std::string name, ServerAddress address, const Surroundings& surroundings);
@@ -59,7 +62,8 @@ public:
 
 private:
     void forgetIfAsked();
-    void forgetRefusal(bool evenOfTheSame);
+    void forgetRefusal();
+    bool isSomebodyElse();
     void startHelper(Waiter& waiter);
     Response exchange(const Request& request, Waiter& waiter);
     Response lost(std::int32_t errnoValue);
@@ -76,8 +80,9 @@ private:
     // Only for who has the turn.
     BackOff m_backOff;
     Response m_lastFailure;
-    std::optional<Credentials> m_refused;
-    Credentials m_credentials; // of the running helper
+    bool m_isRefused = false;
+    bool m_isShareRefused = false;
+    Credentials m_credentials; // of the last attempt
     std::unique_ptr<HelperProcess> m_helper;
     std::chrono::milliseconds m_lastUse{0};
 };

@@ -140,6 +140,52 @@ TEST(SmbLogOn, IsNotBlamedForAShareThatTheUserMustNotHave) {
     }
 }
 
+TEST(SmbLogOn, TellsOnceOfARefusedUser) {
+    SambaServer samba;
+    SmbClient client(samba.port());
+    client.password = "wrong";
+    for (int tick = 0; tick < 3; ++tick) {
+        EXPECT_FALSE(client.files().FolderExists(onShare("")));
+        client.servers().tryNow();
+    }
+    EXPECT_EQ(client.refused, 1);
+    client.password = "wrong, too";
+    client.servers().tryNow();
+    EXPECT_FALSE(client.files().FolderExists(onShare("")));
+    EXPECT_EQ(client.refused, 2);
+}
+
+TEST(SmbLogOn, TellsOnceOfAnAnonymousSessionThatMustNotHaveTheShare) {
+    SambaServer samba({.global = "guest account = nobody\nmap to guest = Bad User"});
+    SmbClient client(samba.port());
+    client.user = client.password = "";
+    for (int tick = 0; tick < 3; ++tick) {
+        EXPECT_FALSE(client.files().FolderExists(onShare("")));
+        client.letPass(1h);
+    }
+    EXPECT_EQ(client.refused, 1);
+    client.user = SambaServer::kUser;
+    client.password = "secret";
+    client.servers().tryNow();
+    EXPECT_TRUE(client.files().FolderExists(onShare("")));
+    EXPECT_EQ(client.refused, 1);
+}
+
+TEST(SmbLogOn, TriesNoPasswordThatAnotherPartOfTheProgramWasRefusedWith) {
+    SambaServer samba;
+    const auto refusals = std::make_shared<smb::Refusals>();
+    SmbClient first(samba.port(), "127.0.0.1", 3s, refusals);
+    SmbClient second(samba.port(), "127.0.0.1", 3s, refusals);
+    first.password = second.password = "wrong";
+    EXPECT_FALSE(first.files().FolderExists(onShare("")));
+    EXPECT_ERROR(basic::kPermissionDenied, second.files().openFile(onShare("x"), OpenMode::Read));
+    EXPECT_EQ(samba.logOns(kWrong), 1);
+    EXPECT_EQ(second.refused, 0);
+    second.password = "secret";
+    second.servers().tryNow();
+    EXPECT_TRUE(second.files().FolderExists(onShare("")));
+}
+
 TEST(SmbLogOn, KeepsThePasswordOutOfTheErrorsText) {
     SambaServer samba;
     SmbClient client(samba.port());

@@ -22,13 +22,16 @@ class SmbClient {
 public:
     // `host` is where the server called srv01 is reached.
     explicit SmbClient(std::uint16_t port, std::string host = "127.0.0.1",
-                       std::chrono::milliseconds deadline = std::chrono::milliseconds(3000))
+                       std::chrono::milliseconds deadline = std::chrono::milliseconds(3000),
+                       std::shared_ptr<smb::Refusals> refusals = std::make_shared<smb::Refusals>())
         : m_servers(
               {.program = smb::helperProgram(),
                .deadline = deadline,
                .now = [this] { return m_time; },
                .spread = [] { return 0.0; },
-               .credentials = [this](const std::string&) { return smb::Credentials::of(user, password); }},
+               .credentials = [this](const std::string&) { return smb::Credentials::of(user, password); },
+               .refused = [this](const std::string&) { ++refused; },
+               .refusals = std::move(refusals)},
               [address = smb::ServerAddress{std::move(host), port}](std::string_view) { return address; }) {}
 
     smb::SmbServer& server() { return m_servers.server("srv01"); }
@@ -38,6 +41,7 @@ public:
 
     std::string user = SambaServer::kUser;
     std::string password = "secret";
+    int refused = 0; // how often it was told so
 
 private:
     std::chrono::milliseconds m_time{1'000'000};
