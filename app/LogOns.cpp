@@ -7,6 +7,8 @@
 #include "platform/shell/LogOnDialog.h"
 #include "resources/LocalText.h"
 
+#include <QScopeGuard>
+
 #include <sys/prctl.h>
 
 #include <utility>
@@ -24,45 +26,61 @@ void keepMemoryPrivate() {
 
 } // namespace
 
+LogOns::LogOns(Services services) : m_services(std::move(services)) {
+    m_desk->whenQuestioned([this](const std::string& server) {
+        QMetaObject::invokeMethod(
+            this, [this, server] { m_services.afterWaiting([this, server] { questioned(server); }); },
+            Qt::QueuedConnection);
+    });
+}
+
+LogOns::~LogOns() {
+    m_desk->whenQuestioned(nullptr);
+}
+
 share::smb::CredentialSource LogOns::source() const {
-    return [typed = m_typed, otherwise = m_services.otherwise](const std::string& server) {
-        {
-            const std::scoped_lock lock(typed->mutex);
-            const auto found = typed->byServer.find(basic::foldCase(server));
-            if (found != typed->byServer.end())
-                return found->second.clone();
-        }
-        return otherwise(server);
+    return [desk = m_desk, otherwise = m_services.otherwise](const std::string& server) {
+        std::optional<Credentials> typed = desk->typedFor(server);
+        return typed ? std::move(*typed) : otherwise(server);
     };
 }
 
-void LogOns::refused(const std::string& server) {
-    QMetaObject::invokeMethod(
-        this, [this, server] { m_services.afterWaiting([this, server] { question(server); }); },
-        Qt::QueuedConnection);
+std::function<void(const std::string&)> LogOns::refusalHook() const {
+    return [desk = m_desk](const std::string& server) { desk->refuse(server); };
 }
 
-void LogOns::question(const std::string& server) {
+// Somebody may have asked and been answered before this question's turn came.
+void LogOns::questioned(const std::string& server) {
+    if (m_desk->isQuestionOpen(server) && ask(server))
+        m_services.goOn();
+}
+
+bool LogOns::askNow(const std::string& server) {
+    return m_desk->isRefused(server) && ask(server);
+}
+
+bool LogOns::ask(const std::string& server) {
     const std::string name = basic::foldCase(server);
     if (!m_asked.insert(name).second)
-        return;
+        return false;
+    const auto end = qScopeGuard([this, &name] {
+        m_asked.erase(name);
+        m_desk->closeQuestion(name);
+    });
     std::optional<Credentials> typed = m_services.ask(server, source()(server));
-    m_asked.erase(name);
     if (!typed)
-        return;
-    {
-        const std::scoped_lock lock(m_typed->mutex);
-        m_typed->byServer[name] = std::move(*typed);
-    }
+        return false;
+    m_desk->type(name, std::move(*typed));
     m_services.tryNow();
+    return true;
 }
 
 std::optional<Credentials> askForCredentials(const std::string& server, const Credentials& last) {
     keepMemoryPrivate();
     shell::LogOnDialog dialog({.caption = localText(5050, "Log on to %1").arg(forms::toQString(server)),
-                               .user = localText(5051, "User name:"),
-                               .domain = localText(5054, "Domain:"),
-                               .password = localText(5052, "Password:"),
+                               .user = localText(5051, "&User name:"),
+                               .domain = localText(5054, "&Domain:"),
+                               .password = localText(5052, "&Password:"),
                                .ok = localText(5000, "OK"),
                                .cancel = localText(5001, "Cancel")},
                               forms::toQString(last.user), forms::toQString(last.domain));

@@ -1,20 +1,19 @@
 // SPDX-FileCopyrightText: 2026 The qmClient authors
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
-// Who logs on to which server: the user who was typed in for it during this run, else what `otherwise` knows
-// (the credentials file). A server that refuses its user makes one question to the person at the desk, after
-// all waits; a server is asked for as it refuses, which it does once for each user and password, so nobody is
-// asked at every tick. What source() gives and refused() may be called on any thread, everything else belongs
-// to the user-interface thread.
+// Who logs on to which server: the user who was typed in for it during this run, else whom `otherwise` knows.
+// A server that refuses its user makes one question to the person at the desk, after all waits; a server
+// refuses once for each user and password, so nobody is asked at every tick, and after a cancelled question
+// nobody is asked again until he wants something of that server. What source() and refusalHook() give may be
+// called on any thread and outlast this object; everything else belongs to the user-interface thread.
 
+#include "app/LogOnDesk.h"
 #include "platform/share/smb/SmbServer.h"
 
 #include <QObject>
 
 #include <functional>
-#include <map>
 #include <memory>
-#include <mutex>
 #include <optional>
 #include <set>
 #include <string>
@@ -34,25 +33,29 @@ public:
         std::function<void(std::function<void()>)> afterWaiting;
         // Somebody else may now log on.
         std::function<void()> tryNow;
+        // The same, for a question that came by itself: nobody waits for its answer.
+        std::function<void()> goOn;
     };
 
-    explicit LogOns(Services services) : m_services(std::move(services)) {}
+    explicit LogOns(Services services);
+    ~LogOns() override;
 
-    // Who logs on, for threads that may outlast this object as well.
     share::smb::CredentialSource source() const;
-    void refused(const std::string& server);
+    std::function<void(const std::string& server)> refusalHook() const;
+    // For threads that can wait for the person at the desk.
+    std::shared_ptr<const LogOnDesk> desk() const { return m_desk; }
+
+    // The person at the desk wants to reach this server now: if it refused its user, asks for another one.
+    // False if it did not or the question was cancelled.
+    bool askNow(const std::string& server);
 
 private:
-    void question(const std::string& server);
-
-    struct Typed {
-        std::mutex mutex;
-        std::map<std::string, Credentials> byServer; // by name without case
-    };
+    void questioned(const std::string& server);
+    bool ask(const std::string& server);
 
     const Services m_services;
-    const std::shared_ptr<Typed> m_typed = std::make_shared<Typed>();
-    std::set<std::string> m_asked; // questions under way
+    const std::shared_ptr<LogOnDesk> m_desk = std::make_shared<LogOnDesk>();
+    std::set<std::string> m_asked; // questions that are on the screen
 };
 
 // The question, in a dialog.

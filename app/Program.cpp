@@ -44,6 +44,15 @@ std::string credentialsFile() {
     return (settings.parent_path() / "credentials").string();
 }
 
+// Empty for a name that is no path.
+std::string serverOf(const std::string& share) {
+    try {
+        return share::UncPath::parse(share).server();
+    } catch (const basic::RuntimeError&) {
+        return {};
+    }
+}
+
 forms::MessageBoxButtonTexts buttonTexts() {
     return {localText(5000, "OK"), localText(5001, "Cancel"), localText(5002, "Yes"), localText(5003, "No")};
 }
@@ -60,7 +69,7 @@ Program::Program(Application& application, SingleInstance& instance)
           errorLog(), m_clock,
           [this] { return std::make_unique<errors::frmError>(m_facts, m_errorDialogState, &m_report); }),
       m_errorHandler(m_shownErrors, [this] { return m_waiter.isEnded(); }),
-      m_registry(registry::pathsFromEnvironment(), m_systemCalls),
+      m_registry(registry::pathsFromEnvironment(), m_systemCalls), m_logOns(logOnServices()),
       m_smbServers(smbSurroundings(), smbAddresses()), m_folders(resolver()),
       m_servers(m_smbServers, m_waiter), m_files(resolver(), m_folders, m_servers),
       m_countsAhead(m_smbServers, resolver()), m_engine(m_files, jet::Engine::sleepBriefly, sharingWait()),
@@ -68,8 +77,8 @@ Program::Program(Application& application, SingleInstance& instance)
       m_values(m_registry, m_messageBoxes),
       m_sound(messageFiles(registry::pathsFromEnvironment(), smbSurroundings()), m_waiter),
       m_audio(m_errorHandler, m_sound.waveOut()),
-      m_mailboxSearch(SearchedShares(m_smbServers, data::ShareMappings(m_registry))),
-      m_network(networkTexts(), networkSources(smbSurroundings(), smbAddresses())),
+      m_mailboxSearch(SearchedShares(m_smbServers, data::ShareMappings(m_registry), m_logOns.desk())),
+      m_network(networkTexts(), networkSources(browsingSurroundings(), smbAddresses())),
       m_browser(m_errorHandler, m_network), m_serverDialog(serverDialogServices()),
       m_trayHosts(QDBusConnection::sessionBus()), m_notificationArea(m_windows, m_icons, m_trayHosts),
       m_areaWatch(m_trayHosts, m_patience), m_help(helpLayout(), helpSurroundings()), m_main(mainServices()) {
@@ -96,11 +105,37 @@ share::smb::SmbServers::Addresses Program::smbAddresses() {
     };
 }
 
+// A program that ends asks nobody.
+LogOns::Services Program::logOnServices() {
+    return {.otherwise = [file = credentialsFile()](
+                             const std::string&) { return share::smb::readCredentialsFile(file); },
+            .ask = askForCredentials,
+            .afterWaiting =
+                [this](std::function<void()> work) {
+                    if (!m_waiter.isEnded())
+                        m_waiter.afterWaiting(std::move(work));
+                },
+            .tryNow = [this] { m_smbServers.tryNow(); },
+            .goOn =
+                [this] {
+                    if (m_main.timer().isTicking()) // else the start-up is not that far
+                        m_main.mTimer_ThatTime();
+                }};
+}
+
 share::smb::SmbServer::Surroundings Program::smbSurroundings() {
     return {.program = share::smb::helperProgram(),
             .spread = [] { return QRandomGenerator::global()->generateDouble(); },
-            .credentials = [file = credentialsFile()](
-                               const std::string&) { return share::smb::readCredentialsFile(file); }};
+            .credentials = m_logOns.source(),
+            .refused = m_logOns.refusalHook(),
+            .refusals = m_refusals};
+}
+
+// Looking around on the network asks nobody for a password.
+share::smb::SmbServer::Surroundings Program::browsingSurroundings() {
+    share::smb::SmbServer::Surroundings surroundings = smbSurroundings();
+    surroundings.refused = [](const std::string&) {};
+    return surroundings;
 }
 
 ShareAccess Program::shareAccess() {
@@ -146,10 +181,17 @@ audio::PlayerServices Program::playerServices() {
 }
 
 dialogs::frmServer::Services Program::serverDialogServices() {
-    return {m_errorHandler, m_common, m_messageBoxes, m_browser, [this](const std::string& path) {
-                m_smbServers.tryNow();
-                return m_files.FolderExists(path);
-            }};
+    return {m_errorHandler, m_common, m_messageBoxes, m_browser,
+            [this](const std::string& share) { return reaches(share); }};
+}
+
+// A server that only wants another user is reached.
+bool Program::reaches(const std::string& share) {
+    m_smbServers.tryNow();
+    bool exists = m_files.FolderExists(share);
+    while (!exists && m_logOns.askNow(serverOf(share)))
+        exists = m_files.FolderExists(share);
+    return exists;
 }
 
 void Program::connectEvents(SingleInstance& instance) {

@@ -8,6 +8,7 @@
 #include "app/Application.h"
 #include "app/CountsAhead.h"
 #include "app/LastErrors.h"
+#include "app/LogOns.h"
 #include "app/ShareWaiter.h"
 #include "app/SingleInstance.h"
 #include "app/TerminationSignals.h"
@@ -55,7 +56,9 @@ public:
 
 private:
     void connectEvents(SingleInstance& instance);
+    LogOns::Services logOnServices();
     share::smb::SmbServer::Surroundings smbSurroundings();
+    share::smb::SmbServer::Surroundings browsingSurroundings();
     share::smb::SmbServers::Addresses smbAddresses();
     share::ShareResolver resolver();
     jet::SharingWait sharingWait();
@@ -64,6 +67,7 @@ private:
     HelpServices helpServices();
     audio::PlayerServices playerServices();
     dialogs::frmServer::Services serverDialogServices();
+    bool reaches(const std::string& share);
 
     Application& m_application;
     basic::SystemClock m_clock;
@@ -79,6 +83,8 @@ private:
     forms::QtClipboard m_clipboard;
     registry::SystemCalls m_systemCalls;
     registry::Registry m_registry;
+    LogOns m_logOns;
+    const std::shared_ptr<share::smb::Refusals> m_refusals = std::make_shared<share::smb::Refusals>();
     share::smb::SmbServers m_smbServers;
     share::LocalFileSystemObject m_folders;
     share::smb::SmbFileSystemObject m_servers;

@@ -2,10 +2,10 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "app/SearchedShares.h"
 
+#include "app/AskingFiles.h"
 #include "platform/basic/RuntimeError.h"
 #include "platform/share/LocalFileSystemObject.h"
 #include "platform/share/MountTable.h"
-#include "platform/share/smb/SmbFileSystemObject.h"
 #include "platform/share/smb/ThreadWaiter.h"
 
 #include <memory>
@@ -45,7 +45,7 @@ dialogs::SearchedShare SearchedShares::operator()(const std::string& folder) con
 dialogs::SearchedShare SearchedShares::onServer(const std::string& server) const {
     m_servers.server(server).tryNow();
     const auto waiter = std::make_shared<share::smb::ThreadWaiter>();
-    return {std::make_unique<share::smb::SmbFileSystemObject>(m_servers, *waiter),
+    return {std::make_unique<AskingFiles>(m_servers, *waiter, m_desk, server),
             [waiter] { waiter->cancel(); }};
 }
 

@@ -2,9 +2,13 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "app/LogOns.h"
 
+#include "platform/share/smb/ThreadWaiter.h"
+
 #include <QCoreApplication>
 
 #include <gtest/gtest.h>
+
+#include <future>
 
 namespace app {
 namespace {
@@ -14,11 +18,13 @@ using share::smb::Credentials;
 class LogOnsTest : public testing::Test {
 protected:
     std::string userOf(const std::string& server) { return m_logOns.source()(server).user; }
+    void refuse(const std::string& server) { m_logOns.refusalHook()(server); }
     static void letEventsRun() { QCoreApplication::processEvents(); }
 
     std::string m_answer = "typed"; // empty: cancelled
     int m_asked = 0;
     int m_tried = 0;
+    int m_wentOn = 0;
     std::string m_last;
     std::function<void()> m_onAsk = [] {};
     std::vector<std::function<void()>> m_later;
@@ -38,7 +44,7 @@ protected:
                          else
                              work();
                      },
-                     [this] { ++m_tried; }}};
+                     [this] { ++m_tried; }, [this] { ++m_wentOn; }}};
 };
 
 TEST_F(LogOnsTest, BeginWithTheCredentialsFile) {
@@ -47,19 +53,20 @@ TEST_F(LogOnsTest, BeginWithTheCredentialsFile) {
 }
 
 TEST_F(LogOnsTest, AskForAServerThatRefusesAndTryWhatWasTyped) {
-    m_logOns.refused("srv01");
+    refuse("srv01");
     EXPECT_EQ(m_asked, 0) << "inside of the request";
     letEventsRun();
     EXPECT_EQ(m_asked, 1);
     EXPECT_EQ(m_last, "filed");
     EXPECT_EQ(m_tried, 1);
+    EXPECT_EQ(m_wentOn, 1);
     EXPECT_EQ(userOf("SRV01"), "typed");
     EXPECT_EQ(userOf("srv02"), "filed");
 }
 
 TEST_F(LogOnsTest, TryNothingWhenTheQuestionIsCancelled) {
     m_answer.clear();
-    m_logOns.refused("srv01");
+    refuse("srv01");
     letEventsRun();
     EXPECT_EQ(m_asked, 1);
     EXPECT_EQ(m_tried, 0);
@@ -68,26 +75,106 @@ TEST_F(LogOnsTest, TryNothingWhenTheQuestionIsCancelled) {
 
 TEST_F(LogOnsTest, AskOneQuestionAboutAServerAtATime) {
     m_onAsk = [this] {
-        m_logOns.refused("srv01");
+        refuse("srv01");
         letEventsRun();
     };
-    m_logOns.refused("SRV01");
+    refuse("SRV01");
     letEventsRun();
     EXPECT_EQ(m_asked, 1);
 }
 
 TEST_F(LogOnsTest, AskAgainForARefusedUserWhoWasTyped) {
-    m_logOns.refused("srv01");
+    refuse("srv01");
     letEventsRun();
-    m_logOns.refused("srv01");
+    refuse("srv01");
     letEventsRun();
     EXPECT_EQ(m_asked, 2);
     EXPECT_EQ(m_last, "typed");
 }
 
+TEST_F(LogOnsTest, AskNobodyAboutAServerThatRefusedNobody) {
+    EXPECT_FALSE(m_logOns.askNow("srv01"));
+    EXPECT_EQ(m_asked, 0);
+}
+
+TEST_F(LogOnsTest, AskAtOnceWhenSomebodyWantsTheServerAndNotAgainByThemselves) {
+    refuse("srv01");
+    EXPECT_TRUE(m_logOns.askNow("SRV01"));
+    EXPECT_EQ(userOf("srv01"), "typed");
+    letEventsRun();
+    EXPECT_EQ(m_asked, 1);
+    EXPECT_EQ(m_wentOn, 0) << "who asked goes on by himself";
+    EXPECT_FALSE(m_logOns.askNow("srv01")) << "nobody refused the new one yet";
+}
+
+TEST_F(LogOnsTest, AskAgainAfterACancelledQuestionOnlyWhenSomebodyWantsTheServer) {
+    m_answer.clear();
+    refuse("srv01");
+    letEventsRun();
+    letEventsRun();
+    EXPECT_EQ(m_asked, 1);
+    m_answer = "typed";
+    EXPECT_TRUE(m_logOns.askNow("srv01"));
+    EXPECT_EQ(m_asked, 2);
+}
+
+// A thread that was refused and waits for the person at the desk, who answers as `m_answer` says.
+class LogOnsThreadTest : public LogOnsTest {
+protected:
+    bool isAnswered() {
+        const int before = m_logOns.desk()->answers("srv01");
+        refuse("srv01");
+        auto waited =
+            std::async(std::launch::async, [this] { m_logOns.desk()->waitForAnswer("SRV01", m_waiter); });
+        if (m_isPatient)
+            letEventsRun();
+        else
+            m_waiter.cancel();
+        waited.get();
+        return m_logOns.desk()->answers("Srv01") != before;
+    }
+
+    bool m_isPatient = true;
+    share::smb::ThreadWaiter m_waiter;
+};
+
+TEST_F(LogOnsThreadTest, TellWaitingThreadsOfTheAnswer) {
+    EXPECT_TRUE(isAnswered());
+    EXPECT_EQ(userOf("srv01"), "typed");
+}
+
+TEST_F(LogOnsThreadTest, TellWaitingThreadsOfACancelledQuestion) {
+    m_answer.clear();
+    EXPECT_FALSE(isAnswered());
+}
+
+TEST_F(LogOnsThreadTest, KeepNoThreadThatEnds) {
+    m_isPatient = false;
+    EXPECT_FALSE(isAnswered());
+}
+
+TEST_F(LogOnsThreadTest, LetNobodyWaitWithoutAQuestion) {
+    m_logOns.desk()->waitForAnswer("srv01", m_waiter);
+    EXPECT_EQ(m_logOns.desk()->answers("srv01"), 0);
+}
+
+TEST(LogOns, AreAskedByThreadsThatOutlastThem) {
+    std::function<void(const std::string&)> refused;
+    share::smb::CredentialSource source;
+    {
+        const LogOns logOns(
+            {[](const std::string&) { return Credentials::of("filed", "x"); }, {}, {}, {}, {}});
+        refused = logOns.refusalHook();
+        source = logOns.source();
+    }
+    refused("srv01");
+    QCoreApplication::processEvents();
+    EXPECT_EQ(source("srv01").user, "filed");
+}
+
 TEST_F(LogOnsTest, AskAfterTheWaitForTheServer) {
     m_isWaiting = true;
-    m_logOns.refused("srv01");
+    refuse("srv01");
     letEventsRun();
     EXPECT_EQ(m_asked, 0);
     ASSERT_EQ(m_later.size(), 1U);
