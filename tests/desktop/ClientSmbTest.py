@@ -1,61 +1,16 @@
 # SPDX-FileCopyrightText: 2026 The qmClient authors
 # SPDX-License-Identifier: GPL-3.0-or-later
 """The real client against a server that it reaches by SMB alone: restarts, hangs, the end."""
-import contextlib
-import os
-import pathlib
 import signal
 import sys
 import unittest
 
 sys.dont_write_bytecode = True
-from client import CONFIG, X, Client  # noqa: E402
-from desktop import DesktopError, wait_until  # noqa: E402
-from options import OK, Options  # noqa: E402
-from samba import PASSWORD, USER, Samba  # noqa: E402
-from scene import FIRST, SECOND, SceneTest  # noqa: E402
-
-
-class SmbScene(SceneTest):
-    """The share is reached by SMB alone."""
-
-    guests = True
-
-    def setUp(self):
-        super().setUp()
-        self.samba = Samba(self.desktop, self.share, guests=self.guests)
-        self.addCleanup(self.samba.go_on)  # a stopped process does not end
-
-    def write_settings(self, numbers, **settings):
-        super().write_settings(numbers, share=self.samba.address, **settings)
-
-    def start_counting(self, calls):
-        """As start(), with the first poll done, which learns the counts beside the list and says nothing."""
-        client = self.start(calls)
-        added = 0
-
-        def announces_a_call():
-            nonlocal added
-            self.add_calls(FIRST, 1)
-            added += 1
-            with contextlib.suppress(DesktopError):
-                return client.wait_popup(seconds=3)
-
-        wait_until(announces_a_call, 'the popup to announce a call', 60)
-        client.click_link(X)
-        client.wait_no_popup()
-        return client, calls[FIRST] + added
-
-
-def helpers():
-    """The processes called qmshare that belong to this test's clients."""
-    found = []
-    for name in filter(str.isdigit, os.listdir('/proc')):
-        with contextlib.suppress(OSError):
-            with open(f'/proc/{name}/comm', encoding='ascii') as comm:
-                if comm.read() == 'qmshare\n':
-                    found.append(int(name))
-    return found
+from client import Client  # noqa: E402
+from desktop import wait_until  # noqa: E402
+from samba import PASSWORD  # noqa: E402
+from scene import FIRST, SECOND  # noqa: E402
+from smb_scene import SmbScene, helpers, parent, runs  # noqa: E402
 
 
 class SmbTest(SmbScene):
@@ -121,52 +76,12 @@ class PasswordTest(SmbScene):
 
     guests = False
 
-    def write_credentials(self, password):
-        path = pathlib.Path(self.desktop.env['XDG_CONFIG_HOME']) / 'Corvantis' / 'Quillamar' / 'credentials'
-        path.parent.mkdir(parents=True, exist_ok=True)
-        path.write_text(f'username={USER}\npassword={password}\n')
-        path.chmod(0o600)
-
     def test_logs_on_as_the_credentials_file_says(self):
         self.write_credentials(PASSWORD)
         client, _ = self.start_counting({FIRST: 12})
         self.add_calls(FIRST, 3)
         client.wait_popup(3)
         self.assertEqual(self.samba.log_ons('NT_STATUS_WRONG_PASSWORD'), 0)
-
-    def test_a_wrong_password_is_tried_once_and_another_one_when_the_user_acts(self):
-        self.add_calls(FIRST, 12)  # with the mailbox's name, which the options look for
-        self.write_settings((FIRST,))
-        self.write_credentials('wrong')
-        client = Client(self.desktop)
-        client.open()
-        client.wait_line('A connection to the server could not be established.', seconds=30)
-        self.write_credentials(PASSWORD)
-        client.choose(CONFIG)
-        options = Options(client)
-        options.wait_mailboxes([FIRST])
-        options.press(OK)
-        options.wait_closed()
-        client.wait_rows(12, seconds=30)
-        self.assertEqual(self.samba.log_ons('NT_STATUS_WRONG_PASSWORD'), 1)
-
-
-def status_of(pid, name):
-    with contextlib.suppress(OSError):
-        with open(f'/proc/{pid}/status', encoding='ascii', errors='replace') as lines:
-            for line in lines:
-                if line.startswith(name + ':'):
-                    return line.split(':')[1].split()[0]
-    return None
-
-
-def parent(pid):
-    number = status_of(pid, 'PPid')
-    return int(number) if number else None
-
-
-def runs(pid):
-    return status_of(pid, 'State') not in (None, 'Z')
 
 
 if __name__ == '__main__':

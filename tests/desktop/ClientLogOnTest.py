@@ -1,0 +1,131 @@
+# SPDX-FileCopyrightText: 2026 The qmClient authors
+# SPDX-License-Identifier: GPL-3.0-or-later
+"""The real client asks who logs on to a server that knows no guests: once, and tries nothing twice by itself."""
+import pathlib
+import sys
+import unittest
+
+sys.dont_write_bytecode = True
+from client import CONFIG, Client  # noqa: E402
+from desktop import wait_until  # noqa: E402
+from options import OK, Options  # noqa: E402
+from samba import PASSWORD  # noqa: E402
+from scene import FIRST  # noqa: E402
+from smb_scene import LOG_ON, SmbScene, helpers, status_of  # noqa: E402
+
+NOT_CONNECTED = 'A connection to the server could not be established.'
+
+
+class LogOnTest(SmbScene):
+    guests = False
+
+    def start_refused(self, calls=12):
+        self.add_calls(FIRST, calls)  # with the mailbox's name, which the options look for
+        self.write_settings((FIRST,))
+        client = Client(self.desktop)
+        self.wait_question()
+        return client
+
+    def wait_ticks(self, client, count=5):
+        """Until the client was woken so often as that many polls do; it has nothing else to do."""
+        def switches():
+            return int(status_of(client.process.pid, 'voluntary_ctxt_switches'))
+        before = switches()
+        wait_until(lambda: switches() >= before + count, 'the client to poll', 60)
+
+    def test_lists_and_announces_calls_when_user_and_password_were_typed(self):
+        client = self.start_refused()
+        self.answer(PASSWORD)
+        client.open()
+        client.wait_rows(12)
+        client.hide()
+        self.add_calls(FIRST, 3)
+        client.wait_popup(3, seconds=30)
+        self.assertEqual(self.wrong_log_ons(), 0)
+
+    def test_asks_again_for_a_wrong_password_and_tries_each_once(self):
+        client = self.start_refused()
+        self.answer('wrong')
+        self.answer('wrong as well')
+        self.answer(PASSWORD)
+        client.open()
+        client.wait_rows(12)
+        self.assertEqual(self.wrong_log_ons(), 2)
+
+    def test_asks_nobody_again_after_cancel_until_the_options_are_opened(self):
+        self.write_credentials('wrong')
+        client = self.start_refused()
+        self.desktop.key('Escape')
+        client.open()
+        client.wait_line(NOT_CONNECTED)
+        self.wait_ticks(client)
+        self.assertIsNone(self.desktop.windows.find(LOG_ON))
+        self.assertEqual(self.wrong_log_ons(), 1)
+        client.choose(CONFIG)
+        self.answer(PASSWORD)
+        options = Options(client)
+        options.wait_mailboxes([FIRST])
+        options.press(OK)
+        options.wait_closed()
+        client.wait_rows(12, seconds=30)
+
+    def test_a_credentials_file_that_was_mended_is_taken_when_the_user_acts(self):
+        self.write_credentials('wrong')
+        client = self.start_refused()
+        self.desktop.key('Escape')
+        client.open()
+        self.write_credentials(PASSWORD)
+        client.choose(CONFIG)
+        options = Options(client)
+        options.wait_mailboxes([FIRST])
+        options.press(OK)
+        options.wait_closed()
+        client.wait_rows(12, seconds=30)
+        self.assertEqual(self.wrong_log_ons(), 1)
+
+    def test_takes_a_domain_and_a_password_of_special_characters(self):
+        password = 'p@s:s/w%4\\d'
+        self.samba.set_password(password)
+        client = self.start_refused()
+        self.answer(password, user='QMTEST\\mbxuser')
+        client.open()
+        client.wait_rows(12)
+        self.assertEqual(self.wrong_log_ons(), 0)
+
+    def test_keeps_the_password_out_of_files_arguments_and_environments(self):
+        password = 'fn0rd-never-written'
+        self.samba.set_password(password)
+        client = self.start_refused()
+        self.answer(password)
+        client.open()
+        client.wait_rows(12)
+        secret = password.encode()
+        for folder in ('home', 'config', 'data', 'state', 'cache', 'run', 'tmp', 'logs'):
+            for path in filter(pathlib.Path.is_file, (self.desktop.folder / folder).rglob('*')):
+                self.assertNotIn(secret, path.read_bytes(), path)
+        for pid in (client.process.pid, *helpers()):
+            for what in ('cmdline', 'environ'):
+                self.assertNotIn(secret, pathlib.Path(f'/proc/{pid}/{what}').read_bytes())
+
+    def test_asks_and_counts_on_when_the_password_is_changed(self):
+        self.write_credentials(PASSWORD)
+        client, calls = self.start_counting({FIRST: 12})
+        self.samba.set_password('changed')
+        self.samba.kill()  # or the old session would go on
+        self.samba.start()
+        self.answer('changed')
+        self.add_calls(FIRST, 3)
+        client.wait_popup(3, seconds=60)
+        client.wait_rows(calls + 3)
+        self.assertEqual(self.wrong_log_ons(), 1)
+
+    def test_ends_while_it_asks(self):
+        client = self.start_refused()
+        client.process.popen.terminate()
+        self.assertEqual(client.process.wait(10), 0)
+
+
+
+
+if __name__ == '__main__':
+    unittest.main(verbosity=2)

@@ -1,0 +1,97 @@
+# SPDX-FileCopyrightText: 2026 The qmClient authors
+# SPDX-License-Identifier: GPL-3.0-or-later
+"""A test's world in which the share is reached by SMB alone, and the processes that the client has for it."""
+import contextlib
+import os
+import pathlib
+
+from client import X
+from desktop import DesktopError, wait_until
+from samba import USER, Samba
+from scene import FIRST, SceneTest
+
+LOG_ON = '^(Log on to|Anmelden an) srv01$'
+
+
+class SmbScene(SceneTest):
+    """The share is reached by SMB alone."""
+
+    guests = True
+
+    def setUp(self):
+        super().setUp()
+        self.samba = Samba(self.desktop, self.share, guests=self.guests)
+        self.addCleanup(self.samba.go_on)  # a stopped process does not end
+
+    def write_settings(self, numbers, **settings):
+        super().write_settings(numbers, share=self.samba.address, **settings)
+
+    def start_counting(self, calls):
+        """As start(), with the first poll done, which learns the counts beside the list and says nothing."""
+        client = self.start(calls)
+        added = 0
+
+        def announces_a_call():
+            nonlocal added
+            self.add_calls(FIRST, 1)
+            added += 1
+            with contextlib.suppress(DesktopError):
+                return client.wait_popup(seconds=3)
+
+        wait_until(announces_a_call, 'the popup to announce a call', 60)
+        client.click_link(X)
+        client.wait_no_popup()
+        return client, calls[FIRST] + added
+
+    def write_credentials(self, password):
+        path = pathlib.Path(self.desktop.env['XDG_CONFIG_HOME']) / 'Corvantis' / 'Quillamar' / 'credentials'
+        path.parent.mkdir(parents=True, exist_ok=True)
+        path.write_text(f'username={USER}\npassword={password}\n')
+        path.chmod(0o600)
+
+    def wait_question(self, seconds=30):
+        """Until the client asks who logs on."""
+        return self.desktop.wait_active(LOG_ON, seconds=seconds)
+
+    def answer(self, password, user=USER, domain=''):
+        """By keyboard, whatever was filled in before."""
+        self.wait_question()
+        self.desktop.key('alt+u')
+        for word in (user, domain, password):
+            self.desktop.key('ctrl+a', 'BackSpace')
+            self.desktop.type(word)
+            self.desktop.key('Tab')
+        self.desktop.key('Return')
+        self.desktop.wait_no_window(LOG_ON)
+
+    def wrong_log_ons(self):
+        return self.samba.log_ons('NT_STATUS_WRONG_PASSWORD')
+
+
+def helpers():
+    """The processes called qmshare that belong to this test's clients."""
+    found = []
+    for name in filter(str.isdigit, os.listdir('/proc')):
+        with contextlib.suppress(OSError):
+            with open(f'/proc/{name}/comm', encoding='ascii') as comm:
+                if comm.read() == 'qmshare\n':
+                    found.append(int(name))
+    return found
+
+
+def status_of(pid, name):
+    with contextlib.suppress(OSError):
+        with open(f'/proc/{pid}/status', encoding='ascii', errors='replace') as lines:
+            for line in lines:
+                if line.startswith(name + ':'):
+                    return line.split(':')[1].split()[0]
+    return None
+
+
+def parent(pid):
+    number = status_of(pid, 'PPid')
+    return int(number) if number else None
+
+
+def runs(pid):
+    return status_of(pid, 'State') not in (None, 'Z')
