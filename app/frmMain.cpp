@@ -3,9 +3,9 @@
 #include "app/frmMain.h"
 
 #include "app/CommandBarLayout.h"
+#include "app/ListAndTabs.h"
 #include "app/LoadCaptions.h"
 #include "app/Shortcuts.h"
-#include "data/ListToClipBoard.h"
 #include "errors/Procedure.h"
 #include "platform/basic/ObjectOf.h"
 #include "platform/forms/ListViewMacros.h"
@@ -16,7 +16,6 @@
 #include <QApplication>
 #include <QCloseEvent>
 #include <QEvent>
-#include <QLabel>
 
 #include <utility>
 
@@ -26,28 +25,12 @@ namespace {
 using resources::localText;
 
 constexpr QSize kFirstSize{760, 460};
-constexpr std::string_view kOptions = "miVOptions";
 
 // Whoever else was handed the connection finds it closed.
 void release(std::shared_ptr<jet::Connection>& connection) {
     if (connection)
         connection->Close();
     connection.reset();
-}
-
-forms::ImageList listImages() {
-    forms::ImageList images;
-    images.Set(resources::kCallWithMessage, resources::callIcon(resources::kCallWithMessage),
-               localText(5014, "Call with a recorded message"));
-    images.Set(resources::kCallWithoutMessage, resources::callIcon(resources::kCallWithoutMessage),
-               localText(5015, "Call without a message"));
-    return images;
-}
-
-forms::ImageList tabImages() {
-    forms::ImageList images;
-    images.Set(resources::kMailboxImage, resources::mailboxIcon(resources::kMailboxImage));
-    return images;
 }
 
 } // namespace
@@ -71,67 +54,34 @@ frmMain::frmMain(const MainServices& services)
                   m_state,
                   *this}),
       m_poll({services.errorHandler, services.common, m_TabStrip, m_mTimer, m_state, *this,
-              [this](std::int32_t newCalls) { announce(newCalls); }, m_services.shareAccess}),
+              [this](std::int32_t newCalls) { m_alert.announce(newCalls); }, m_services.shareAccess}),
       m_mailboxData({services.errorHandler, services.common, services.files, m_lsCalls, m_TabStrip, m_mTimer,
                      m_state, *this}),
-      m_commands(services.errorHandler),
-      m_playMessage({services.common, services.messageBoxes, m_lsCalls, m_TabStrip, m_state, m_ctlAudio}),
-      m_deleteAll({services.common, services.files, services.messageBoxes, m_TabStrip, m_state, *this,
-                   [this] { m_ctlAudio.StopPlay(); },
-                   [this](std::int32_t ms) { m_services.player.wait.PauseWithEvents(ms); }}),
-      m_helpCommands({services.errorHandler, services.messageBoxes, services.help, *this}),
-      m_editOptions({services.errorHandler, services.common, services.options, *this, m_state, *this}),
-      m_trayEvents({services.errorHandler, m_mTimer, m_state, *this}),
+      m_commands({m_services, *this, m_lsCalls, m_TabStrip, m_state, *this, m_callDetails, m_ctlAudio}),
+      m_alert({m_services, m_state, *this}), m_trayEvents({services.errorHandler, m_mTimer, m_state, *this}),
       m_listEvents({services.errorHandler, m_lsCalls, m_TabStrip, m_ab, m_state, *this}),
       m_messages(services.errorHandler, m_lsCalls, m_TabStrip), m_ctlAudio(services.player) {
     setObjectName(QStringLiteral("frmMain"));
-    m_TabStrip.setObjectName(QStringLiteral("TabStrip"));
-    m_lsCalls.setObjectName(QStringLiteral("lsCalls"));
     setWindowIcon(resources::programIcon());
-    m_lsCalls.SetSmallIcons(listImages());
-    m_TabStrip.SetImages(tabImages());
-    m_lsCalls.SetAccessibleName(localText(5010, "Call list"));
-    m_TabStrip.SetAccessibleName(localText(5011, "Mailboxes"));
-    m_lsCalls.SetMultiSelect(true);
-    m_lsCalls.setFocus();
+    prepareListAndTabs(m_lsCalls, m_TabStrip);
     resize(kFirstSize);
     layOutCommandBar(m_ab);
     addShortcuts(m_ab, m_lsCalls);
-    addCommands();
+    connectEvents();
+}
+
+frmMain::~frmMain() = default;
+
+void frmMain::connectEvents() {
     m_messages.attach();
+    connect(&m_ab, &forms::CommandBar::ToolClick, this,
+            [this](forms::Tool& tool) { ab_ToolClick(tool.Name()); });
+    connect(&m_ctlAudio, &audio::ctlAudio::StateChanged, this, [this] { UpdateButtonStates(); });
     connect(&m_TabStrip, &forms::TabStrip::Click, this, [this] { m_services.shareAccess.userActs(); });
     connect(&m_mTimer, &forms::Timer::ThatTime, this, [this] {
         showIfUnreachable();
         mTimer_ThatTime();
     });
-}
-
-frmMain::~frmMain() = default;
-
-void frmMain::addCommands() {
-    connect(&m_ab, &forms::CommandBar::ToolClick, this,
-            [this](forms::Tool& tool) { ab_ToolClick(tool.Name()); });
-    m_commands.add("miFExit", [this] { unload(); });
-    m_commands.add("miFHide", [this] { hideWindow(); });
-    addPlayerCommands();
-    m_commands.add("miECopy", [this] {
-        data::ListToClipBoard(m_services.errorHandler, m_lsCalls, m_services.clipboard);
-    });
-    m_commands.add("miEDetails", [this] { m_callDetails.ShowDetails(); });
-    m_commands.add("miEClear", [this](errors::Procedure& proc) { m_deleteAll(proc); });
-    m_commands.add("miESelectAll", [this] { selectAll(); });
-    m_commands.add(std::string(kOptions), [this] { m_editOptions.ShowOptions(); });
-    m_commands.add("miHAbout", [this] { m_helpCommands.showAbout(); });
-    m_commands.add("miHContents", [this] { m_helpCommands.ShowHelp(); });
-}
-
-void frmMain::addPlayerCommands() {
-    m_commands.add("miSPlay", [this](errors::Procedure& proc) { m_playMessage(proc); });
-    m_commands.add("miSPause", [this] { m_ctlAudio.Pause(); });
-    m_commands.add("miSStop", [this] { m_ctlAudio.StopPlay(); });
-    m_commands.add("miSFwd", [this] { m_ctlAudio.Forward(); });
-    m_commands.add("miSRew", [this] { m_ctlAudio.Backward(); });
-    connect(&m_ctlAudio, &audio::ctlAudio::StateChanged, this, [this] { UpdateButtonStates(); });
 }
 
 // While the window unloads, events run; what they ask for comes too late.
@@ -158,7 +108,7 @@ void frmMain::Form_Load() {
         return;
     proc.step([&] { loadDialogs(); });
     if (proc.value(false, [&] { return basic::objectOf(config).ServerName.empty(); }))
-        proc.step([&] { m_editOptions.ShowOptions(); });
+        proc.step([&] { m_commands.ShowOptions(); });
     if (m_isUnloaded || m_state.exitRequested)
         return;
     proc.step([&] { InitData(); });
@@ -175,9 +125,7 @@ void frmMain::loadTrayIcon() {
 }
 
 void frmMain::loadDialogs() {
-    m_AlertForm = std::make_unique<tray::frmAlert>(m_services.errorHandler, m_services.desktop);
-    connect(m_AlertForm.get(), &tray::frmAlert::Show, this,
-            [this](bool& showList) { AlertForm_Show(showList); });
+    m_alert.load();
     m_callDetails.load(
         {m_services.errorHandler, m_services.clipboard, m_services.dateTimeFormat, QLocale::system()});
 }
@@ -186,44 +134,9 @@ QMetaObject::Connection frmMain::whenItemChanged(QObject& listener, ItemChangedH
     return connect(this, &frmMain::ItemChanged, &listener, std::move(handler));
 }
 
-// A command that comes while a server is waited for (from the tray's menu: the window takes none) runs after.
 void frmMain::ab_ToolClick(std::string_view toolName) {
-    if (m_isUnloaded)
-        return;
-    m_services.shareAccess.userActs();
-    if (toolName == kOptions)
-        m_services.shareAccess.userLogsOn();
-    m_services.shareAccess.afterWaiting(
-        [this, name = std::string(toolName)] { m_commands.ab_ToolClick(name); });
-}
-
-void frmMain::AlertForm_Show(bool showList) {
-    m_services.shareAccess.userActs();
-    errors::Procedure proc{m_services.errorHandler, "frmMain", "AlertForm_Show"};
-    proc.step([&] { LoadList(); });
-    if (showList)
-        proc.step([&] { showWindow(); });
-    const auto config = m_state.config;
-    if (!config)
-        return;
-    for (const auto& mailbox : config->Mailboxes)
-        proc.step([&] { mailbox->NewCallCount = 0; });
-    proc.step([&] { m_state.newCallTotal = 0; });
-}
-
-void frmMain::announce(std::int32_t newCalls) {
-    const QString message = localText(3765, "You have ") + u' ' + QString::number(newCalls) + u' ' +
-                            localText(3766, " new calls");
-    if (!m_AlertForm)
-        return;
-    m_AlertForm->lblInfo().setText(message);
-    m_AlertForm->ShowForm();
-}
-
-void frmMain::selectAll() {
-    const int count = m_lsCalls.ListItems().Count();
-    for (int index = 1; index <= count; ++index)
-        m_lsCalls.ListItems().Item(index).SetSelected(true);
+    if (!m_isUnloaded)
+        m_commands.ab_ToolClick(toolName);
 }
 
 void frmMain::dockPlayer() {
@@ -294,7 +207,7 @@ void frmMain::Form_Unload() {
     proc.step([&] { m_mTimer.SetEnabled(false); });
     if (m_frmSysTray)
         proc.step([&] { m_frmSysTray->Unload(); });
-    // Both may be further up the stack, waiting for the click that led here.
+    // It may be further up the stack, waiting for the click that led here.
     proc.step([&] {
         if (auto* icon = m_frmSysTray.release())
             icon->deleteLater();
@@ -303,12 +216,7 @@ void frmMain::Form_Unload() {
     proc.step([&] { release(m_state.listConnection); });
     proc.step([&] { m_state.config.reset(); });
     proc.step([&] { m_callDetails.unload(); });
-    proc.step([&] {
-        if (auto* popup = m_AlertForm.release()) {
-            popup->hide();
-            popup->deleteLater();
-        }
-    });
+    proc.step([&] { m_alert.unload(); });
 }
 
 void frmMain::closeEvent(QCloseEvent* event) {

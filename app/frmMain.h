@@ -9,16 +9,13 @@
 #include "app/ButtonStates.h"
 #include "app/CallDetails.h"
 #include "app/CallList.h"
-#include "app/Commands.h"
-#include "app/DeleteAll.h"
-#include "app/EditOptions.h"
-#include "app/HelpCommands.h"
 #include "app/ListEvents.h"
 #include "app/MailboxData.h"
+#include "app/MainCommands.h"
 #include "app/MainProcedures.h"
 #include "app/MainServices.h"
 #include "app/MainState.h"
-#include "app/PlayMessage.h"
+#include "app/NewCallsAlert.h"
 #include "app/Poll.h"
 #include "app/Selection.h"
 #include "app/TrayEvents.h"
@@ -28,7 +25,6 @@
 #include "platform/forms/ListView.h"
 #include "platform/forms/TabStrip.h"
 #include "platform/forms/Timer.h"
-#include "tray/frmAlert.h"
 #include "tray/frmSysTray.h"
 
 #include <QMainWindow>
@@ -93,15 +89,11 @@ protected:
     void resizeEvent(QResizeEvent* event) override;
 
 private:
-    void addCommands();
-    void addPlayerCommands();
+    void connectEvents();
     void loadTrayIcon();
     void loadDialogs();
     bool Form_QueryUnload(UnloadMode mode);
     void Form_Unload();
-    void AlertForm_Show(bool showList);
-    void selectAll();
-    void announce(std::int32_t newCalls);
     void showIfUnreachable();
 
     MainServices m_services;
@@ -117,17 +109,13 @@ private:
     CallList m_callList;
     Poll m_poll;
     MailboxData m_mailboxData;
-    Commands m_commands;
-    PlayMessage m_playMessage;
-    DeleteAll m_deleteAll;
-    HelpCommands m_helpCommands;
-    EditOptions m_editOptions;
+    MainCommands m_commands;
+    NewCallsAlert m_alert;
     TrayEvents m_trayEvents;
     ListEvents m_listEvents;
     WindowMessages m_messages;
 
     std::unique_ptr<tray::frmSysTray> m_frmSysTray;
-    std::unique_ptr<tray::frmAlert> m_AlertForm;
     bool m_isUnloaded = false;
     bool m_closeMinimises = false;
     bool m_showsWhenPossible = false;
