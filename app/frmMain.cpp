@@ -16,6 +16,7 @@
 #include <QApplication>
 #include <QCloseEvent>
 #include <QEvent>
+#include <QScreen>
 
 #include <utility>
 
@@ -64,13 +65,20 @@ frmMain::frmMain(const MainServices& services)
     setObjectName(QStringLiteral("frmMain"));
     setWindowIcon(resources::programIcon());
     prepareListAndTabs(m_lsCalls, m_TabStrip);
-    resize(kFirstSize);
+    placeOnScreen();
     layOutCommandBar(m_ab);
     addShortcuts(m_ab, m_lsCalls);
     connectEvents();
 }
 
 frmMain::~frmMain() = default;
+
+// In the middle: dialogs that are opened while the window is hidden come up where it would stand.
+void frmMain::placeOnScreen() {
+    QRect place({}, kFirstSize);
+    place.moveCenter(screen()->availableGeometry().center());
+    setGeometry(place);
+}
 
 void frmMain::connectEvents() {
     m_messages.attach();

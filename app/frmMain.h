@@ -89,6 +89,7 @@ protected:
     void resizeEvent(QResizeEvent* event) override;
 
 private:
+    void placeOnScreen();
     void connectEvents();
     void loadTrayIcon();
     void loadDialogs();

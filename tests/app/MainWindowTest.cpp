@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "tests/app/MainWorld.h"
 
+#include <QScreen>
+
 namespace app {
 namespace {
 
@@ -53,6 +55,12 @@ TEST_F(MainWindowTest, StartsHiddenAndItsCloseBoxHidesIt) {
     mailbox(12).append(1);
     tick();
     EXPECT_EQ(popupText(), "You have  1  new calls");
+}
+
+TEST_F(MainWindowTest, StandsInTheMiddleOfTheScreenBeforeItIsFirstShown) {
+    create();
+    const QPoint middle = window->screen()->availableGeometry().center();
+    EXPECT_LE((window->geometry().center() - middle).manhattanLength(), 2);
 }
 
 TEST_F(MainWindowTest, IntervalIsTheSecondsTimesAThousand) {
