@@ -12,7 +12,9 @@ std::vector<RowPointer> IndexSearch::find(const RealIndex& index, const KeyBytes
     KeyBytes last;
     while (page != 0) {
         const IndexNode leaf = node(page);
-        if (!leaf.isLeaf || leaf.entries.empty())
+        if (!leaf.isLeaf)
+            placeOf(page).fail("a node stands among the leaves of the index");
+        if (leaf.entries.empty())
             break;
         if (leaf.entries.front().bytes <= last) // a chain that runs in a circle ends here, too
             placeOf(page).fail("the index entries are out of order");
