@@ -4,125 +4,95 @@
 
 Pictures of the dialog are left in pictures/details/ beside the programs' folder.
 """
-import datetime
+import shutil
 import sys
 import unittest
 
 sys.dont_write_bytecode = True
 from client import Client  # noqa: E402
-from scene import SceneTest, run  # noqa: E402
-from site_folder import BIN, write_settings  # noqa: E402
+from details import TITLE, Details, English, German  # noqa: E402
+from samba import Samba  # noqa: E402
+from scene import FIRST, SECOND, SceneTest, run  # noqa: E402
+from site_folder import BIN, mailbox_folder, write_settings  # noqa: E402
 
 PICTURES = BIN.parent / 'pictures' / 'details'
-DETAILS = '^(Call Details|Anruf-Details)$'
 
 
-class DetailsTest(SceneTest):
+class DetailsScene(SceneTest):
     name = 'en'
-    no_message = 'No message recorded'
-    none_selected = 'Currently there is no call entry selected.'
-    captions = ('Date:', 'Call ID:', 'Caller:', 'Message:', 'Details')
-    close = '^Close$'
-    copy = '^Copy$'
-    previous, following = '^Previous call$', '^Next call$'
+    texts = English
 
-    def setUp(self):
-        super().setUp()
-        run('qmdemo', self.share, '--once')
-        self.number = min(int(entry.name) for entry in (self.share / 'MBX').iterdir())
-        write_settings(self.desktop.env['XDG_CONFIG_HOME'], self.share, {self.number: 'Reception'}, 1)
+    def start_shown(self, mailboxes):
+        """The client over {number: name}, its window shown; the first mailbox's calls are listed."""
+        self.number = min(mailboxes)
+        write_settings(self.desktop.env['XDG_CONFIG_HOME'], self.address(), mailboxes, 1)
         self.client = Client(self.desktop)
         self.client.open()
         self.calls = self.calls_by_mdbtools(self.number)[::-1]
-        self.client.wait_rows(len(self.calls))
+        self.client.wait_rows(len(self.calls), 30)
+        self.details = Details(self.client, self.texts)
+
+    def address(self):
+        return self.share
 
     def select(self, row):
-        x, y = self.client.place_of(row)
-        self.desktop.click(x, y)
-
-    def open_by_context_menu(self, row):
-        x, y = self.client.place_of(row)
-        self.desktop.click(x, y)
-        self.desktop.click(x, y, 3)
-        self.desktop.wait_window(unmanaged=True, pid=self.client.process.pid)
-        self.desktop.key('Down', 'Down', 'Return')
-        self.desktop.wait_window(DETAILS)
-
-    def labels(self):
-        return [o['name'] for o in self.desktop.objects(self.client.process, 'label')]
-
-    def date(self, call):
-        when = datetime.datetime.strptime(call['CallDate'], '%m/%d/%y %H:%M:%S')
-        return f'{when:%A}, {when.day} {when:%B} {when.year} {when:%H:%M:%S}'
-
-    def fields(self, call):
-        name = call['CallerName'].strip()
-        length = int(call['MessageLength'])
-        return [self.date(call), call['CallID'],
-                f'{call["CallerID"]} - {name}' if name else call['CallerID'],
-                f'{length} s' if length else self.no_message]
-
-    def wait_shown(self, call):
-        wanted = self.fields(call)
-        self.desktop.wait_for(lambda: set(wanted) <= set(self.labels()), f'the fields {wanted}')
-
-    def press(self, button):
-        window = self.desktop.windows.find(DETAILS)
-        found = self.desktop.objects(self.client.process, 'push button', button)
-        self.assertEqual(len(found), 1)
-        self.desktop.click_object(found[0], window)
+        self.desktop.click(*self.client.place_of(row))
 
     def picture(self, station):
         PICTURES.mkdir(parents=True, exist_ok=True)
         self.desktop.screenshot(PICTURES / f'{self.name}-{station}.png')
 
+
+class DetailsTest(DetailsScene):
+    def setUp(self):
+        super().setUp()
+        run('qmdemo', self.share, '--once')
+        self.start_shown({min(int(entry.name) for entry in (self.share / 'MBX').iterdir()): 'Reception'})
+
     def test_shows_every_call_as_the_database_has_it(self):
-        self.open_by_context_menu(0)
-        self.wait_shown(self.calls[0])
+        self.details.open_by_context_menu(0)
+        self.details.wait_shown(self.calls[0])
         self.picture('first')
         for call in self.calls[1:]:
-            self.press(self.following)
-            self.wait_shown(call)
-        self.press(self.following)
-        self.wait_shown(self.calls[-1])
+            self.details.press(self.texts.following)
+            self.details.wait_shown(call)
+        self.details.press(self.texts.following)
+        self.details.wait_shown(self.calls[-1])
         for call in self.calls[-2::-1]:
-            self.press(self.previous)
-            self.wait_shown(call)
+            self.details.press(self.texts.previous)
+            self.details.wait_shown(call)
         for length in (True, False):
             row = next(i for i, call in enumerate(self.calls) if bool(int(call['MessageLength'])) == length)
             self.select(row)
-            self.wait_shown(self.calls[row])
+            self.details.wait_shown(self.calls[row])
             self.picture('message' if length else 'no-message')
 
     def test_follows_the_selection_and_copies_what_it_shows(self):
-        self.open_by_context_menu(1)
+        self.details.open_by_context_menu(1)
         for row in (2, 0, 3):
             self.select(row)
-            self.wait_shown(self.calls[row])
-        self.press(self.copy)
-        values = self.fields(self.calls[3])
-        wanted = ''.join(f'{caption}\t{value}\r\n' for caption, value in zip(self.captions, values))
-        wanted += f'{self.captions[-1]}\r\n{self.calls[3]["CallDetails"]}\r\n'
+            self.details.wait_shown(self.calls[row])
+        self.details.press(self.texts.copy)
+        wanted = self.details.copied(self.calls[3])
         self.desktop.wait_for(lambda: self.clipboard() == wanted, 'the copied call')
-        self.press(self.close)
-        self.desktop.wait_no_window(DETAILS)
-        self.open_by_context_menu(1)
-        self.wait_shown(self.calls[1])
+        self.details.close()
+        self.details.open_by_context_menu(1)
+        self.details.wait_shown(self.calls[1])
 
     def clipboard(self):
         return self.desktop.run(['xclip', '-selection', 'clipboard', '-out'])
 
     def test_is_empty_when_the_list_is_loaded_anew_and_closes(self):
-        self.open_by_context_menu(0)
-        self.wait_shown(self.calls[0])
-        self.assertNotIn(self.none_selected, self.labels())
+        self.details.open_by_context_menu(0)
+        self.details.wait_shown(self.calls[0])
+        self.assertNotIn(self.texts.none_selected, self.details.labels())
         run('qmdemo', self.share, '--mailbox', self.number, '--calls', 1, '--every', '0.001')
         self.client.wait_rows(len(self.calls) + 1)
-        self.desktop.wait_for(lambda: self.none_selected in self.labels(), 'the empty state')
+        self.details.wait_empty()
         self.picture('none')
-        self.assertEqual(self.desktop.objects(self.client.process, 'push button', self.copy), [])
-        self.desktop.windows.ask_to_close(self.desktop.windows.find(DETAILS))
-        self.desktop.wait_no_window(DETAILS)
+        self.assertEqual(self.details.buttons(self.texts.copy), [])
+        self.desktop.windows.ask_to_close(self.details.window())
+        self.desktop.wait_no_window(TITLE)
         self.assertTrue(self.client.alive)
         self.assertTrue(self.client.window())
 
@@ -130,20 +100,64 @@ class DetailsTest(SceneTest):
 class GermanDetailsTest(DetailsTest):
     lang = 'de_DE.UTF-8'
     name = 'de'
-    no_message = 'Keine Nachricht aufgezeichnet'
-    none_selected = 'Momentan ist kein Eintrag ausgewählt'
-    captions = ('Datum:', 'Anruf-ID:', 'Anrufer:', 'Nachricht:', 'Details')
-    close = '^Schließen$'
-    copy = '^Kopieren$'
-    previous, following = '^Voriger Anruf$', '^Nächster Anruf$'
-    days = ('Montag', 'Dienstag', 'Mittwoch', 'Donnerstag', 'Freitag', 'Samstag', 'Sonntag')
-    months = ('Januar', 'Februar', 'März', 'April', 'Mai', 'Juni', 'Juli', 'August', 'September', 'Oktober',
-              'November', 'Dezember')
+    texts = German
 
-    def date(self, call):
-        when = datetime.datetime.strptime(call['CallDate'], '%m/%d/%y %H:%M:%S')
-        return (f'{self.days[when.weekday()]}, {when.day}. {self.months[when.month - 1]} {when.year} '
-                f'{when:%H:%M:%S}')
+
+class TabsTest(DetailsScene):
+    """Two mailboxes whose calls tell apart."""
+
+    def setUp(self):
+        super().setUp()
+        for number, calls in ((FIRST, 4), (SECOND, 3)):
+            self.add_calls(number, calls)
+
+    def test_a_mailbox_that_is_deleted_on_the_server_leaves_its_tab_empty_and_the_other_one_works(self):
+        self.start_shown({FIRST: 'Reception', SECOND: 'Service'})
+        others = self.calls_by_mdbtools(SECOND)[::-1]
+        self.details.open_by_context_menu(0)
+        self.details.wait_shown(self.calls[0])
+        shutil.rmtree(mailbox_folder(self.share, FIRST))
+        self.client.click_tab('Service')
+        self.client.wait_rows(len(others), 30)
+        self.details.wait_empty()
+        self.select(1)
+        self.details.wait_shown(others[1])
+        self.client.click_tab('Reception')
+        self.client.wait_rows(0, 30)
+        self.details.wait_empty()
+        self.assertEqual(self.client.tabs(), ['Reception', 'Service'])
+        self.client.click_tab('Service')
+        self.client.wait_rows(len(others), 30)
+        self.assertTrue(self.client.alive)
+        self.assertFalse(self.client.ignore_errors())
+
+
+class SmbDetailsTest(TabsTest):
+    """The share is reached by SMB alone."""
+
+    name = 'smb'
+
+    def setUp(self):
+        super().setUp()
+        self.samba = Samba(self.desktop, self.share)
+
+    def address(self):
+        return self.samba.address
+
+    def test_shows_the_calls_of_each_mailbox_and_steps_through_them(self):
+        self.start_shown({FIRST: 'Reception', SECOND: 'Service'})
+        self.details.open_by_context_menu(0)
+        for name, number in (('Reception', FIRST), ('Service', SECOND)):
+            self.client.click_tab(name)
+            calls = self.calls_by_mdbtools(number)[::-1]
+            self.client.wait_rows(len(calls), 30)
+            self.details.wait_empty()
+            self.select(0)
+            self.details.wait_shown(calls[0], 30)
+            for call in calls[1:]:
+                self.details.press(self.texts.following)
+                self.details.wait_shown(call, 30)
+        self.picture('last')
 
 
 if __name__ == '__main__':

@@ -15,7 +15,7 @@ from desktop import Desktop, wait_until  # noqa: E402
 from options import CANCEL, OK, Options  # noqa: E402
 from samba import Samba  # noqa: E402
 from scene import FIRST, SECOND, SceneTest, run  # noqa: E402
-from site_folder import BIN, SERVER, mailbox_folder, write_settings  # noqa: E402
+from site_folder import BIN, SERVER, mailbox_folder, read_settings, settings_file, write_settings  # noqa: E402
 
 ARTEFACTS = BIN.parent / 'artefacts' / 'options'
 CHOICE = '^(Select Quillamar Server|Quillamar-Server wählen)$'
@@ -31,21 +31,10 @@ def keep_picture(options, name):
 
 class OptionsTest(SceneTest):
     def settings_file(self):
-        return pathlib.Path(self.desktop.env['XDG_CONFIG_HOME']) / 'Corvantis' / 'Quillamar' / 'registry.reg'
+        return settings_file(self.desktop.env['XDG_CONFIG_HOME'])
 
     def settings(self):
-        """The stored values by key, keys without what they have in common."""
-        raw = self.settings_file().read_bytes()
-        text = raw.decode('utf-16' if raw[:2] == b'\xff\xfe' else 'utf-8-sig')
-        values, key = {}, None
-        for line in text.splitlines():
-            if line.startswith('['):
-                key = line[1:-1].split('1.0\\')[-1]
-                values[key] = {}
-            elif '=' in line:
-                name, value = line.split('=', 1)
-                values[key][name.strip('"')] = value
-        return values
+        return read_settings(self.desktop.env['XDG_CONFIG_HOME'])
 
     def start_anew(self):
         """A client that nobody has told anything yet."""

@@ -41,17 +41,24 @@ class Client:
 
     # Menu
 
-    def choose(self, entry):
-        """Picks an entry of the icon's menu by keyboard; the separator is not counted."""
+    def open_menu(self):
+        """The icon's, with the right button."""
         x, y = self.wait_docked().center
         # Two clicks at one place within the double-click time are a double click, which opens no menu: every
         # second one goes to the other half of the icon.
         self._half = -self._half
         self.desktop.click(x + 5 * self._half, y, 3)
         self.desktop.wait_window(unmanaged=True, pid=self.process.pid)
-        self.desktop.key(*['Down'] * entry, 'Return')
+
+    def wait_no_menu(self):
         self.desktop.wait_for(lambda: not self.desktop.windows.find(unmanaged=True, pid=self.process.pid)
                               or not self.alive, 'the menu to close')
+
+    def choose(self, entry):
+        """Picks an entry of the icon's menu by keyboard; the separator is not counted."""
+        self.open_menu()
+        self.desktop.key(*['Down'] * entry, 'Return')
+        self.wait_no_menu()
 
     def open(self):
         self.choose(OPEN)
@@ -93,7 +100,16 @@ class Client:
     def tabs(self):
         return [o['name'] for o in self._objects('page tab', showing=True)]
 
+    def click_tab(self, name):
+        tabs = [o for o in self._objects('page tab', showing=True) if o['name'] == name]
+        if len(tabs) != 1:
+            raise DesktopError(f'{len(tabs)} tabs {name!r} instead of one')
+        self.desktop.click_object(tabs[0], self.window())
+
     # Player
+
+    def selected_rows(self):
+        return self.desktop.reader().ask('selected_rows', where=self._list())
 
     def place_of(self, row):
         """The middle of a row's date, which is the first to show a text, on the screen."""
@@ -117,6 +133,13 @@ class Client:
 
     def wait_position(self, at_least, seconds=20):
         wait_until(lambda: self.position()[0] >= at_least, f'the player to reach {at_least} %', seconds)
+
+    def seek(self, fraction):
+        """A click on the player's track."""
+        track = self._objects('slider', '^Position$', showing=True)[0]['where']
+        x, y, width, height = self.desktop.reader().ask('rect', where=track)
+        window = self.window()
+        self.desktop.click(window.x + x + width * fraction, window.y + y + height // 2)
 
     def wait_silent(self, seconds=30):
         wait_until(lambda: not self.position()[1], 'the message to end', seconds)

@@ -43,6 +43,25 @@ def write_settings(config_home, share, mailboxes, seconds=1, server=SERVER, **ch
         lines += ['', f'[{_KEY}\\Client\\Mailboxes\\{number}]', f'"Name"={_text(name)}',
                   f'"Description"={_text(f"Mailbox {number}")}', '"MailboxType"="M"']
     lines += ['', f'[{_KEY}\\Shares]', f'"{SERVER}"={_text(share)}', '']
-    folder = pathlib.Path(config_home) / 'Corvantis' / 'Quillamar'
-    folder.mkdir(parents=True, exist_ok=True)
-    (folder / 'registry.reg').write_bytes('\r\n'.join(lines).encode('utf-16'))
+    file = settings_file(config_home)
+    file.parent.mkdir(parents=True, exist_ok=True)
+    file.write_bytes('\r\n'.join(lines).encode('utf-16'))
+
+
+def settings_file(config_home):
+    return pathlib.Path(config_home) / 'Corvantis' / 'Quillamar' / 'registry.reg'
+
+
+def read_settings(config_home):
+    """The stored values by key, keys without what they have in common."""
+    raw = settings_file(config_home).read_bytes()
+    text = raw.decode('utf-16' if raw[:2] == b'\xff\xfe' else 'utf-8-sig')
+    values, key = {}, None
+    for line in text.splitlines():
+        if line.startswith('['):
+            key = line[1:-1].split('1.0\\')[-1]
+            values[key] = {}
+        elif '=' in line:
+            name, value = line.split('=', 1)
+            values[key][name.strip('"')] = value
+    return values

@@ -110,6 +110,9 @@ class Reader:
     def do_cell_rect(self, where, row, column):
         return self.do_rect(self._cell_at(where, row, column))
 
+    def do_selected_rows(self, where):
+        return self._call(where, TABLE, 'GetSelectedRows')[0]
+
     def do_value(self, where):
         """(value, least, greatest) of a slider, and what is spoken of it."""
         numbers = [self._call(where, 'org.freedesktop.DBus.Properties', 'Get',
