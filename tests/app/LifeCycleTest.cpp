@@ -2,14 +2,20 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // One whole run of the real window, written down as it meets the outside: in which order it starts, and in
 // which order it lets go of everything.
+#include "app/OutsideEvents.h"
+#include "app/TerminationSignals.h"
 #include "resources/StringTable.h"
 #include "tests/app/MainWorld.h"
 
+#include <QApplication>
 #include <QCoreApplication>
 #include <QDialog>
 #include <QEvent>
 #include <QMenu>
 #include <QPointer>
+#include <QTest>
+
+#include <csignal>
 
 namespace app {
 namespace {
@@ -72,6 +78,24 @@ protected:
     }
     bool isPlayerDocked() { return window->ab().Bands("Status").Tools("miSProgress").Custom() != nullptr; }
     QDialog& details() { return *window->findChild<QDialog*>(QStringLiteral("frmCallDetails")); }
+    // Of the newest window, shown or not.
+    static QWidget* newestPopup() {
+        QWidget* newest = nullptr;
+        for (QWidget* widget : QApplication::topLevelWidgets())
+            if (qobject_cast<tray::frmAlert*>(widget) != nullptr)
+                newest = widget;
+        return newest;
+    }
+    // As the program is wired: what the session sends, and the signals that mean the same.
+    void sendTermination() {
+        const OutsideEvents events{errorHandler,
+                                   {[] {}, [] {}, [] {}, [this] { window->unload(UnloadMode::SessionEnd); }}};
+        TerminationSignals signals;
+        QObject::connect(&signals, &TerminationSignals::received, &*window, [&] { events.sessionEnds(); });
+        std::raise(SIGTERM);
+        EXPECT_FALSE(window->isUnloaded()) << "not from inside the signal's handler";
+        EXPECT_TRUE(QTest::qWaitFor([this] { return window->isUnloaded(); }));
+    }
     static std::string yesNo(bool value) { return value ? "yes" : "no"; }
 
     // The events of the window itself that a start-up has.
@@ -133,7 +157,8 @@ TEST_F(LifeCycleTest, EveryWayOutRunsTheSameSequence) {
              tick();
          }},
         {"menu", [this] { window->ab_ToolClick("miFExit"); }},
-        {"session end", [this] { window->unload(UnloadMode::SessionEnd); }}};
+        {"session end", [this] { window->unload(UnloadMode::SessionEnd); }},
+        {"SIGTERM", [this] { sendTermination(); }}};
     for (const auto& [name, leave] : ways) {
         create();
         window->Form_Load();
@@ -141,6 +166,8 @@ TEST_F(LifeCycleTest, EveryWayOutRunsTheSameSequence) {
         list().SetSelectedItem(list().ListItems().Item(1));
         window->ab_ToolClick("miEDetails");
         const QPointer<QDialog> dialog = &details();
+        const QPointer<QWidget> alert = newestPopup();
+        ASSERT_FALSE(alert.isNull()) << name;
         const std::weak_ptr<jet::Connection> connection = window->state().currentConnection;
         ASSERT_FALSE(connection.expired()) << name;
         leave();
@@ -149,7 +176,9 @@ TEST_F(LifeCycleTest, EveryWayOutRunsTheSameSequence) {
         EXPECT_FALSE(isPlayerDocked()) << name;
         EXPECT_FALSE(window->timer().Enabled()) << name;
         EXPECT_EQ(window->state().config, nullptr) << name;
+        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
         EXPECT_TRUE(dialog.isNull()) << name;
+        EXPECT_TRUE(alert.isNull()) << name;
         EXPECT_TRUE(connection.expired()) << name;
         EXPECT_FALSE(window->isVisible()) << name;
     }
