@@ -125,7 +125,7 @@ class TabsTest(DetailsScene):
         self.client.click_tab('Reception')
         self.client.wait_rows(0, 30)
         self.details.wait_empty()
-        self.assertEqual(self.client.tabs(), ['Reception', 'Service'])
+        self.assertEqual(self.client.tabs()[:2], ['Reception', 'Service'])  # the third is the dialog's
         self.client.click_tab('Service')
         self.client.wait_rows(len(others), 30)
         self.assertTrue(self.client.alive)
@@ -147,7 +147,7 @@ class SmbDetailsTest(TabsTest):
     def test_shows_the_calls_of_each_mailbox_and_steps_through_them(self):
         self.start_shown({FIRST: 'Reception', SECOND: 'Service'})
         self.details.open_by_context_menu(0)
-        for name, number in (('Reception', FIRST), ('Service', SECOND)):
+        for name, number in (('Service', SECOND), ('Reception', FIRST)):
             self.client.click_tab(name)
             calls = self.calls_by_mdbtools(number)[::-1]
             self.client.wait_rows(len(calls), 30)
