@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "platform/shell/LogOnDialog.h"
 
+#include <QCheckBox>
 #include <QFormLayout>
 #include <QLabel>
 #include <QLineEdit>
@@ -23,7 +24,8 @@ QPushButton* addButton(QBoxLayout& row, const QString& name, const QString& capt
 
 } // namespace
 
-LogOnDialog::LogOnDialog(const LogOnTexts& texts, const QString& user, const QString& domain) {
+LogOnDialog::LogOnDialog(const LogOnTexts& texts, const QString& user, const QString& domain,
+                         Remembering remembering) {
     setObjectName(QStringLiteral("LogOn"));
     setWindowTitle(texts.caption);
     setWindowFlag(Qt::WindowContextHelpButtonHint, false);
@@ -33,6 +35,7 @@ LogOnDialog::LogOnDialog(const LogOnTexts& texts, const QString& user, const QSt
     m_txtDomain = addField(QStringLiteral("txtDomain"), texts.domain);
     m_txtPassword = addField(QStringLiteral("txtPassword"), texts.password);
     m_txtPassword->setEchoMode(QLineEdit::Password);
+    addRemembering(texts, remembering);
     auto* row = new QHBoxLayout;
     column->addLayout(row);
     row->addStretch();
@@ -47,6 +50,22 @@ LogOnDialog::LogOnDialog(const LogOnTexts& texts, const QString& user, const QSt
     m_txtUser->setText(user);
     m_txtDomain->setText(domain);
     (user.isEmpty() ? m_txtUser : m_txtPassword)->setFocus();
+}
+
+void LogOnDialog::addRemembering(const LogOnTexts& texts, Remembering remembering) {
+    m_chkRemember = new QCheckBox(texts.remember);
+    m_chkRemember->setObjectName(QStringLiteral("chkRemember"));
+    m_chkRemember->setChecked(remembering == Remembering::Chosen);
+    layout()->addWidget(m_chkRemember);
+    if (remembering != Remembering::Impossible)
+        return;
+    m_chkRemember->setEnabled(false);
+    m_chkRemember->setAccessibleDescription(texts.cannotRemember);
+    auto* reason = new QLabel(texts.cannotRemember);
+    reason->setObjectName(QStringLiteral("lblCannotRemember"));
+    reason->setTextFormat(Qt::PlainText);
+    reason->setWordWrap(true);
+    layout()->addWidget(reason);
 }
 
 QLineEdit* LogOnDialog::addField(const QString& name, const QString& caption) {
@@ -71,6 +90,10 @@ QString LogOnDialog::domain() const {
 
 QString LogOnDialog::password() const {
     return m_txtPassword->text();
+}
+
+bool LogOnDialog::isToBeRemembered() const {
+    return m_chkRemember->isChecked();
 }
 
 } // namespace shell

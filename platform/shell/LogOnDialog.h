@@ -7,6 +7,7 @@
 #include <QDialog>
 #include <QString>
 
+class QCheckBox;
 class QLineEdit;
 class QPushButton;
 
@@ -18,25 +19,33 @@ struct LogOnTexts {
     QString user;
     QString domain;
     QString password;
+    QString remember;
+    QString cannotRemember; // why
     QString ok;
     QString cancel;
 };
 
+// What the dialog offers for later runs.
+enum class Remembering { Impossible, Offered, Chosen };
+
 class LogOnDialog final : public QDialog {
     Q_OBJECT
 public:
-    LogOnDialog(const LogOnTexts& texts, const QString& user, const QString& domain);
+    LogOnDialog(const LogOnTexts& texts, const QString& user, const QString& domain, Remembering remembering);
 
     QString user() const;
     QString domain() const;
     QString password() const;
+    bool isToBeRemembered() const;
 
 private:
+    void addRemembering(const LogOnTexts& texts, Remembering remembering);
     QLineEdit* addField(const QString& name, const QString& caption);
 
     QLineEdit* m_txtUser;
     QLineEdit* m_txtDomain;
     QLineEdit* m_txtPassword;
+    QCheckBox* m_chkRemember;
 };
 
 } // namespace shell

@@ -4,6 +4,7 @@
 
 #include <string.h> // explicit_bzero is no part of <cstring>
 #include <sys/mman.h>
+#include <sys/prctl.h>
 
 #include <algorithm>
 #include <new>
@@ -37,6 +38,10 @@ Secret::~Secret() {
         return;
     wipe(m_text, kMaximumBytes);
     ::munmap(m_text, kMaximumBytes);
+}
+
+void keepMemoryPrivate() noexcept {
+    ::prctl(PR_SET_DUMPABLE, 0, 0, 0, 0);
 }
 
 void wipe(void* memory, std::size_t size) noexcept {

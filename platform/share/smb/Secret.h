@@ -31,6 +31,10 @@ private:
     std::size_t m_size = 0;
 };
 
+// Where a password also lies in memory that is not ours to overwrite, as a toolkit's: from now on this
+// process leaves no core file and lets no other program of the user look into it.
+void keepMemoryPrivate() noexcept;
+
 // Overwrites memory in a way that no optimiser takes out.
 void wipe(void* memory, std::size_t size) noexcept;
 

@@ -70,6 +70,7 @@ void SmbServer::startHelper(Waiter& waiter) {
         m_helper.reset();
     if (m_helper)
         return;
+    m_surroundings.prepare(m_name, waiter);
     m_credentials = m_surroundings.credentials(m_name);
     if (m_surroundings.refusals->knows(m_name, m_credentials)) {
         m_isRefused = true;

@@ -30,12 +30,16 @@ using CredentialSource = std::function<Credentials(const std::string& server)>;
 
 class SmbServer {
 public:
+    using Preparation = std::function<void(const std::string& server, Waiter& waiter)>;
+
     struct Surroundings {
         std::string program; // qmshare
         std::chrono::milliseconds deadline{3'000};
         ElapsedTime now = bootTime;
         BackOff::Spread spread;
         CredentialSource credentials;
+        // Before the source is asked for a new connection: may wait until it knows, or throw.
+        Preparation prepare = [](const std::string&, Waiter&) {};
         // Told of a server that refuses its user, or refuses him the share, on the thread that found out:
         // once for each user and password.
         std::function<void(const std::string& server)> refused = [](const std::string&) {};
