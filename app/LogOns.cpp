@@ -4,12 +4,9 @@
 
 #include "platform/basic/TextCompare.h"
 #include "platform/forms/Text.h"
-#include "platform/shell/LogOnDialog.h"
 #include "resources/LocalText.h"
 
 #include <QScopeGuard>
-
-#include <sys/prctl.h>
 
 #include <utility>
 
@@ -18,11 +15,6 @@ namespace {
 
 using resources::localText;
 using share::smb::Credentials;
-
-// A password that was typed lies in the toolkit's memory: from now on no core file shows it.
-void keepMemoryPrivate() {
-    ::prctl(PR_SET_DUMPABLE, 0, 0, 0, 0);
-}
 
 } // namespace
 
@@ -67,31 +59,37 @@ bool LogOns::ask(const std::string& server) {
         m_asked.erase(name);
         m_desk->closeQuestion(name);
     });
-    std::optional<Credentials> typed = m_services.ask(server, source()(server));
-    if (!typed)
+    std::optional<Answer> answer = m_services.ask(server, source()(server));
+    if (!answer)
         return false;
-    m_desk->type(name, std::move(*typed));
+    m_services.remember(server, answer->who, answer->isToBeRemembered);
+    m_desk->type(name, std::move(answer->who));
     m_services.tryNow();
     return true;
 }
 
-std::optional<Credentials> askForCredentials(const std::string& server, const Credentials& last) {
-    keepMemoryPrivate();
+std::optional<LogOns::Answer> askForCredentials(const std::string& server, const Credentials& last,
+                                                shell::Remembering remembering) {
+    share::smb::keepMemoryPrivate(); // what is typed lies in the toolkit's memory
     shell::LogOnDialog dialog({.caption = localText(5050, "Log on to %1").arg(forms::toQString(server)),
                                .user = localText(5051, "&User name:"),
                                .domain = localText(5054, "&Domain:"),
                                .password = localText(5052, "&Password:"),
+                               .remember = localText(5053, "&Remember password"),
+                               .cannotRemember = localText(
+                                   5055, "This session has no keyring in which the password could be kept."),
                                .ok = localText(5000, "OK"),
                                .cancel = localText(5001, "Cancel")},
-                              forms::toQString(last.user), forms::toQString(last.domain));
+                              forms::toQString(last.user), forms::toQString(last.domain), remembering);
     if (dialog.exec() != QDialog::Accepted)
         return std::nullopt;
     std::string password = forms::fromQString(dialog.password());
-    Credentials typed = Credentials::of(forms::fromQString(dialog.user()), password);
+    LogOns::Answer answer{Credentials::of(forms::fromQString(dialog.user()), password),
+                          dialog.isToBeRemembered()};
     share::smb::wipe(password.data(), password.size());
-    if (typed.domain.empty())
-        typed.domain = forms::fromQString(dialog.domain());
-    return typed;
+    if (answer.who.domain.empty())
+        answer.who.domain = forms::fromQString(dialog.domain());
+    return answer;
 }
 
 } // namespace app

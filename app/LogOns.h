@@ -9,6 +9,7 @@
 
 #include "app/LogOnDesk.h"
 #include "platform/share/smb/SmbServer.h"
+#include "platform/shell/LogOnDialog.h"
 
 #include <QObject>
 
@@ -25,10 +26,17 @@ class LogOns final : public QObject {
 public:
     using Credentials = share::smb::Credentials;
 
+    struct Answer {
+        Credentials who;
+        bool isToBeRemembered = false;
+    };
     struct Services {
         share::smb::CredentialSource otherwise;
         // Asks the person at the desk, modally; `last` was refused. Nothing when that was cancelled.
-        std::function<std::optional<Credentials>(const std::string& server, const Credentials& last)> ask;
+        std::function<std::optional<Answer>(const std::string& server, const Credentials& last)> ask;
+        // For later runs, or not any more.
+        std::function<void(const std::string& server, const Credentials& who, bool isToBeRemembered)>
+            remember;
         // Runs the work now or when no wait for a server is under way.
         std::function<void(std::function<void()>)> afterWaiting;
         // Somebody else may now log on.
@@ -59,7 +67,8 @@ private:
 };
 
 // The question, in a dialog.
-std::optional<share::smb::Credentials> askForCredentials(const std::string& server,
-                                                         const share::smb::Credentials& last);
+std::optional<LogOns::Answer> askForCredentials(const std::string& server,
+                                                const share::smb::Credentials& last,
+                                                shell::Remembering remembering);
 
 } // namespace app

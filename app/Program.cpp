@@ -69,7 +69,8 @@ Program::Program(Application& application, SingleInstance& instance)
           errorLog(), m_clock,
           [this] { return std::make_unique<errors::frmError>(m_facts, m_errorDialogState, &m_report); }),
       m_errorHandler(m_shownErrors, [this] { return m_waiter.isEnded(); }),
-      m_registry(registry::pathsFromEnvironment(), m_systemCalls), m_logOns(logOnServices()),
+      m_registry(registry::pathsFromEnvironment(), m_systemCalls),
+      m_remembered(m_keyring, [this] { passwordNotStored(); }), m_logOns(logOnServices()),
       m_smbServers(smbSurroundings(), smbAddresses()), m_folders(resolver()),
       m_servers(m_smbServers, m_waiter), m_files(resolver(), m_folders, m_servers),
       m_countsAhead(m_smbServers, resolver()), m_engine(m_files, jet::Engine::sleepBriefly, sharingWait()),
@@ -105,11 +106,34 @@ share::smb::SmbServers::Addresses Program::smbAddresses() {
     };
 }
 
+void Program::passwordNotStored() {
+    if (!m_waiter.isEnded())
+        m_messageBoxes.show(localText(5056, "The password could not be stored in the keyring."),
+                            forms::kExclamation, {});
+}
+
+shell::Remembering Program::remembering(const std::string& server) const {
+    if (!shell::Keyring::isThere())
+        return shell::Remembering::Impossible;
+    return m_remembered.isRemembered(server) ? shell::Remembering::Chosen : shell::Remembering::Offered;
+}
+
 // A program that ends asks nobody.
 LogOns::Services Program::logOnServices() {
-    return {.otherwise = [file = credentialsFile()](
-                             const std::string&) { return share::smb::readCredentialsFile(file); },
-            .ask = askForCredentials,
+    return {.otherwise = m_remembered.source([file = credentialsFile()](const std::string&) {
+                return share::smb::readCredentialsFile(file);
+            }),
+            .ask =
+                [this](const std::string& server, const share::smb::Credentials& last) {
+                    return askForCredentials(server, last, remembering(server));
+                },
+            .remember =
+                [this](const std::string& server, const share::smb::Credentials& who, bool isWanted) {
+                    if (isWanted)
+                        m_remembered.remember(server, who);
+                    else
+                        m_remembered.forget(server);
+                },
             .afterWaiting =
                 [this](std::function<void()> work) {
                     if (!m_waiter.isEnded())
@@ -127,6 +151,7 @@ share::smb::SmbServer::Surroundings Program::smbSurroundings() {
     return {.program = share::smb::helperProgram(),
             .spread = [] { return QRandomGenerator::global()->generateDouble(); },
             .credentials = m_logOns.source(),
+            .prepare = m_remembered.preparation(),
             .refused = m_logOns.refusalHook(),
             .refusals = m_refusals};
 }

@@ -9,6 +9,7 @@
 #include "app/CountsAhead.h"
 #include "app/LastErrors.h"
 #include "app/LogOns.h"
+#include "app/RememberedLogOns.h"
 #include "app/ShareWaiter.h"
 #include "app/SingleInstance.h"
 #include "app/TerminationSignals.h"
@@ -56,6 +57,8 @@ public:
 
 private:
     void connectEvents(SingleInstance& instance);
+    void passwordNotStored();
+    shell::Remembering remembering(const std::string& server) const;
     LogOns::Services logOnServices();
     share::smb::SmbServer::Surroundings smbSurroundings();
     share::smb::SmbServer::Surroundings browsingSurroundings();
@@ -83,6 +86,8 @@ private:
     forms::QtClipboard m_clipboard;
     registry::SystemCalls m_systemCalls;
     registry::Registry m_registry;
+    shell::Keyring m_keyring;
+    RememberedLogOns m_remembered;
     LogOns m_logOns;
     const std::shared_ptr<share::smb::Refusals> m_refusals = std::make_shared<share::smb::Refusals>();
     share::smb::SmbServers m_smbServers;

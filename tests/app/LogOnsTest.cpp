@@ -22,6 +22,9 @@ protected:
     static void letEventsRun() { QCoreApplication::processEvents(); }
 
     std::string m_answer = "typed"; // empty: cancelled
+    bool m_isToBeRemembered = false;
+    std::string m_remembered;
+    std::string m_forgotten;
     int m_asked = 0;
     int m_tried = 0;
     int m_wentOn = 0;
@@ -30,13 +33,16 @@ protected:
     std::vector<std::function<void()>> m_later;
     bool m_isWaiting = false;
     LogOns m_logOns{{[](const std::string&) { return Credentials::of("filed", "x"); },
-                     [this](const std::string&, const Credentials& last) -> std::optional<Credentials> {
+                     [this](const std::string&, const Credentials& last) -> std::optional<LogOns::Answer> {
                          ++m_asked;
                          m_last = last.user;
                          m_onAsk();
                          if (m_answer.empty())
                              return std::nullopt;
-                         return Credentials::of(m_answer, "y");
+                         return LogOns::Answer{Credentials::of(m_answer, "y"), m_isToBeRemembered};
+                     },
+                     [this](const std::string& server, const Credentials& who, bool isToBeRemembered) {
+                         (isToBeRemembered ? m_remembered : m_forgotten) = server + ": " + who.user;
                      },
                      [this](std::function<void()> work) {
                          if (m_isWaiting)
@@ -90,6 +96,17 @@ TEST_F(LogOnsTest, AskAgainForARefusedUserWhoWasTyped) {
     letEventsRun();
     EXPECT_EQ(m_asked, 2);
     EXPECT_EQ(m_last, "typed");
+}
+
+TEST_F(LogOnsTest, RememberOnlyWhoIsToBeRemembered) {
+    refuse("srv01");
+    letEventsRun();
+    EXPECT_EQ(m_remembered, "");
+    EXPECT_EQ(m_forgotten, "srv01: typed");
+    m_isToBeRemembered = true;
+    refuse("srv02");
+    letEventsRun();
+    EXPECT_EQ(m_remembered, "srv02: typed");
 }
 
 TEST_F(LogOnsTest, AskNobodyAboutAServerThatRefusedNobody) {
@@ -163,7 +180,7 @@ TEST(LogOns, AreAskedByThreadsThatOutlastThem) {
     share::smb::CredentialSource source;
     {
         const LogOns logOns(
-            {[](const std::string&) { return Credentials::of("filed", "x"); }, {}, {}, {}, {}});
+            {[](const std::string&) { return Credentials::of("filed", "x"); }, {}, {}, {}, {}, {}});
         refused = logOns.refusalHook();
         source = logOns.source();
     }
