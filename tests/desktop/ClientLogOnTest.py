@@ -16,7 +16,7 @@ from smb_scene import LOG_ON, SmbScene, helpers, status_of  # noqa: E402
 NOT_CONNECTED = 'A connection to the server could not be established.'
 
 
-class LogOnTest(SmbScene):
+class LogOnScene(SmbScene):
     guests = False
 
     def start_refused(self, calls=12):
@@ -26,6 +26,8 @@ class LogOnTest(SmbScene):
         self.wait_question()
         return client
 
+
+class LogOnTest(LogOnScene):
     def wait_ticks(self, client, count=5):
         """Until the client was woken so often as that many polls do; it has nothing else to do."""
         def switches():
@@ -125,6 +127,55 @@ class LogOnTest(SmbScene):
         self.assertEqual(client.process.wait(10), 0)
 
 
+
+class RememberedTest(LogOnScene):
+    """A session whose keyring is open."""
+
+    def setUp(self):
+        super().setUp()
+        # Without an end of its input it would wait for the rest of the password.
+        self.desktop.start(['sh', '-c', 'printf keys | exec gnome-keyring-daemon --unlock --foreground '
+                                        '--components=secrets'])
+        self.desktop.wait_for(lambda: 'true' in self.ask_bus('org.freedesktop.DBus', '/org/freedesktop/DBus',
+                                                             'org.freedesktop.DBus.NameHasOwner',
+                                                             'org.freedesktop.secrets'), 'the keyring')
+
+    def ask_bus(self, service, path, method, *words):
+        return self.desktop.run(['gdbus', 'call', '--session', '--dest', service, '--object-path', path,
+                                 '--method', method, *words])
+
+    def kept_passwords(self):
+        found = self.ask_bus('org.freedesktop.secrets', '/org/freedesktop/secrets',
+                             'org.freedesktop.Secret.Service.SearchItems', "{'server': 'qmClient'}")
+        return found.count('/collection/')
+
+    def start_and_remember(self):
+        client = self.start_refused()
+        self.answer(PASSWORD, remember=True)
+        client.open()
+        client.wait_rows(12)
+        wait_until(self.kept_passwords, 'the password to be kept')
+        client.process.popen.terminate()
+        client.process.wait(10)
+
+    def test_a_remembered_password_is_asked_for_no_more(self):
+        self.start_and_remember()
+        client = Client(self.desktop)
+        client.open()
+        client.wait_rows(12)
+        self.assertIsNone(self.desktop.windows.find(LOG_ON))
+        self.assertEqual(self.wrong_log_ons(), 0)
+
+    def test_a_remembered_password_that_is_refused_is_tried_once_and_forgotten_when_nobody_wants_it_kept(self):
+        self.start_and_remember()
+        self.samba.set_password('changed')
+        client = Client(self.desktop)
+        self.wait_question()
+        self.assertEqual(self.wrong_log_ons(), 1)
+        self.answer('changed', remember=True)  # takes the mark away: it was kept before
+        client.open()
+        client.wait_rows(12)
+        wait_until(lambda: not self.kept_passwords(), 'the password to be forgotten')
 
 
 if __name__ == '__main__':

@@ -53,7 +53,7 @@ class SmbScene(SceneTest):
         """Until the client asks who logs on."""
         return self.desktop.wait_active(LOG_ON, seconds=seconds)
 
-    def answer(self, password, user=USER, domain=''):
+    def answer(self, password, user=USER, domain='', remember=False):
         """By keyboard, whatever was filled in before."""
         self.wait_question()
         self.desktop.key('alt+u')
@@ -61,7 +61,7 @@ class SmbScene(SceneTest):
             self.desktop.key('ctrl+a', 'BackSpace')
             self.desktop.type(word)
             self.desktop.key('Tab')
-        self.desktop.key('Return')
+        self.desktop.key(*['space'] * remember, 'Return')
         self.desktop.wait_no_window(LOG_ON)
 
     def wrong_log_ons(self):
