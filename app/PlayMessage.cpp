@@ -15,6 +15,8 @@ void PlayMessage::operator()(errors::Procedure& proc) const {
     proc.step([&] { file = chosenFile(); });
     if (file.empty() || proc.value(false, [&] { return m_parts.player.PlayWave(file); }))
         return;
+    if (!m_parts.state.config) // the window was unloaded while the message was read
+        return;
     proc.step([&] {
         m_parts.messageBoxes.show(
             forms::toQString(resources::LoadLocalString(3679, "Error playing audio file!")), forms::kOkOnly,

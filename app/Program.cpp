@@ -90,9 +90,8 @@ Program::Program(Application& application, SingleInstance& instance)
 // While others are in a database, painting goes on; a program that ends waits for nobody.
 jet::SharingWait Program::sharingWait() {
     return {.sleep = [this](std::chrono::milliseconds time) {
-        if (m_waiter.isEnded())
+        if (!m_waiter.pass(time))
             throw basic::RuntimeError(basic::kProviderFailure);
-        m_waiter.pass(time);
     }};
 }
 

@@ -54,15 +54,17 @@ Waited ShareWaiter::letEventsRun(int descriptor, std::chrono::milliseconds atMos
     return end == kReadable ? Waited::Ready : Waited::TimeOver;
 }
 
-// Inside of another wait, or when the program ends, nothing may run.
-void ShareWaiter::pass(std::chrono::milliseconds time) {
-    if (m_isEnded || isWaiting()) {
+// Inside of another wait nothing may run.
+bool ShareWaiter::pass(std::chrono::milliseconds time) {
+    if (m_isEnded)
+        return false;
+    if (isWaiting()) {
         std::this_thread::sleep_for(time);
-        return;
+        return true;
     }
     QEventLoop loop;
-    QTimer::singleShot(time, Qt::PreciseTimer, &loop, &QEventLoop::quit);
-    exec(loop);
+    QTimer::singleShot(time, Qt::PreciseTimer, &loop, [&loop] { loop.exit(kTimeOver); });
+    return exec(loop) == kTimeOver && !m_isEnded;
 }
 
 int ShareWaiter::exec(QEventLoop& loop) {

@@ -27,8 +27,8 @@ public:
 
     share::smb::Waited untilReadable(int descriptor, std::chrono::milliseconds atMost) override;
 
-    // A part of the wait for a message that is read, or for the sound server.
-    void pass(std::chrono::milliseconds time) override;
+    // A part of the wait for a message that is read and decoded, or for others in a database.
+    bool pass(std::chrono::milliseconds time) override;
 
     bool isWaiting() const noexcept { return m_loop != nullptr; }
     // Runs `work` now, or as soon as nobody waits any more.

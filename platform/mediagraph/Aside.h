@@ -49,7 +49,8 @@ class Aside {
 public:
     explicit Aside(Waiting& waiting) : m_waiting(waiting) {}
 
-    // What `work` answers or throws. Error 57 with `lateText` when its time is over, 7 without a thread.
+    // What `work` answers or throws. Error 57 with `lateText` when its time is over or nobody waits any more,
+    // 7 without a thread.
     template <typename Result>
     Result run(WaitLimits limits, const std::string& lateText, std::function<Result(Progress&)> work) {
         const auto progress = std::make_shared<Progress>();
@@ -58,11 +59,10 @@ public:
         start([task = std::make_shared<std::packaged_task<Result()>>(std::move(task))] { (*task)(); });
         Patience patience(limits);
         while (result.wait_for(kGlance) != std::future_status::ready) {
-            if (patience.isOver(progress->steps)) {
+            if (patience.isOver(progress->steps) || !m_waiting.pass(kTurn)) {
                 progress->isAbandoned = true;
                 late(lateText);
             }
-            m_waiting.pass(kTurn);
         }
         return result.get();
     }

@@ -6,8 +6,9 @@
 
 namespace mediagraph {
 
-void SleepWaiting::pass(std::chrono::milliseconds time) {
+bool SleepWaiting::pass(std::chrono::milliseconds time) {
     std::this_thread::sleep_for(time);
+    return true;
 }
 
 } // namespace mediagraph

@@ -16,14 +16,14 @@ public:
     virtual ~Waiting() = default;
 
     // Called again and again until the work is done or its time is over. Returns after about `time`; may
-    // return sooner. Must not throw.
-    virtual void pass(std::chrono::milliseconds time) = 0;
+    // return sooner. False: the program ends, and nobody waits any more. Must not throw.
+    [[nodiscard]] virtual bool pass(std::chrono::milliseconds time) = 0;
 };
 
 // Just sleeps: for programs and tests without a window.
 class SleepWaiting final : public Waiting {
 public:
-    void pass(std::chrono::milliseconds time) override;
+    bool pass(std::chrono::milliseconds time) override;
 };
 
 } // namespace mediagraph

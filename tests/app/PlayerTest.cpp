@@ -173,6 +173,19 @@ TEST_F(MainPlayerTest, PlayThatFailsIsSaid) {
     EXPECT_EQ(errorHandler.reports[0].procedure, "clsWave.Playwave");
 }
 
+// The wait for the message is cancelled then, so that the play fails.
+TEST_F(MainPlayerTest, ProgramThatEndsWhileAMessageIsReadSaysNothing) {
+    loadOne();
+    sound.onCall = [this](const std::string& call) {
+        if (call.starts_with("Filename "))
+            window->unload(UnloadMode::SessionEnd);
+    };
+    sound.fail("Filename", basic::kDeviceIoError);
+    play();
+    EXPECT_TRUE(window->isUnloaded());
+    EXPECT_THAT(messageBoxes.boxes, IsEmpty());
+}
+
 TEST_F(MainPlayerTest, FailureOfThePlayCommandIsTheDispatchers) {
     loadOne();
     sound.position = 3;

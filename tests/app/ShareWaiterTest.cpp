@@ -70,6 +70,41 @@ TEST_F(ShareWaiterTest, DoesNotWaitInsideOfAWait) {
     EXPECT_EQ(inner, Waited::Cancelled);
 }
 
+TEST_F(ShareWaiterTest, LetsEventsRunInEachPartOfAWaitForAMessage) {
+    bool isDone = false;
+    QTimer::singleShot(0, &m_waiter, [&] { isDone = m_waiter.isWaiting(); });
+    EXPECT_TRUE(m_waiter.pass(10ms));
+    EXPECT_TRUE(isDone);
+    EXPECT_FALSE(m_waiter.isWaiting());
+}
+
+TEST_F(ShareWaiterTest, CancelsAWaitForAMessageAtTheEndOfTheProgram) {
+    QTimer::singleShot(0, &m_waiter, [this] { m_waiter.endWaits(); });
+    EXPECT_FALSE(m_waiter.pass(60min));
+    EXPECT_FALSE(m_waiter.pass(60min));
+}
+
+TEST_F(ShareWaiterTest, CancelsAWaitForAMessageWhenTheEventLoopsEnd) {
+    bool isOn = true;
+    QTimer::singleShot(0, &m_waiter, [&] {
+        QTimer::singleShot(0, &m_waiter, [] { QCoreApplication::quit(); });
+        isOn = m_waiter.pass(60min);
+    });
+    QCoreApplication::exec();
+    EXPECT_FALSE(isOn);
+}
+
+TEST_F(ShareWaiterTest, LetsNothingRunInAWaitForAMessageInsideOfAWait) {
+    bool isDone = false;
+    QTimer::singleShot(0, &m_waiter, [&] {
+        QTimer::singleShot(0, &m_waiter, [&isDone] { isDone = true; });
+        EXPECT_TRUE(m_waiter.pass(10ms));
+        EXPECT_FALSE(isDone);
+        answer();
+    });
+    EXPECT_EQ(wait(), Waited::Ready);
+}
+
 TEST_F(ShareWaiterTest, RunsWorkAtOnceWhenNobodyWaits) {
     bool isDone = false;
     m_waiter.afterWaiting([&] { isDone = true; });

@@ -172,6 +172,7 @@ std::uint32_t RecordedSound::waveOutGetDevCapsA(std::uint32_t device, mediagraph
 
 void RecordedSound::called(const std::string& call) {
     log.push_back(call);
+    onCall(call);
     for (Fault& fault : m_faults)
         if (fault.times > 0 && call.starts_with(fault.beginning)) {
             --fault.times;

@@ -9,6 +9,7 @@
 #include "platform/mediagraph/WaveOut.h"
 
 #include <deque>
+#include <functional>
 #include <map>
 #include <string>
 #include <vector>
@@ -50,6 +51,7 @@ public:
     std::deque<double> durations;
     mediagraph::EventCode ending{}; // 0 as no platform answers it, so that the engine must look
     bool isRunning = true;          // WaitForCompletion fails
+    std::function<void(const std::string&)> onCall = [](const std::string&) {};
     std::vector<std::string> log;
 
 private:

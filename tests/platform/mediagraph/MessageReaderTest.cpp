@@ -24,9 +24,10 @@ constexpr const char* kMessage = R"(\\srv\Quillamar_0$\message.wav)";
 class CountingWait final : public Waiting {
 public:
     int passes = 0;
-    void pass(milliseconds time) override {
+    bool pass(milliseconds time) override {
         ++passes;
         std::this_thread::sleep_for(time);
+        return true;
     }
 };
 
@@ -160,11 +161,31 @@ TEST(MessageReader, GivesUpOnAServerThatStopsAnswering) {
 class OpeningWait final : public Waiting {
 public:
     explicit OpeningWait(std::shared_ptr<Gate> gate) : m_gate(std::move(gate)) {}
-    void pass(milliseconds) override { m_gate->open(); }
+    bool pass(milliseconds) override {
+        m_gate->open();
+        return true;
+    }
 
 private:
     std::shared_ptr<Gate> m_gate;
 };
+
+// The program ends while it waits.
+class EndedWait final : public Waiting {
+public:
+    int passes = 0;
+    bool pass(milliseconds) override { return ++passes < 3; }
+};
+
+TEST(MessageReader, WaitsNoLongerWhenTheProgramEnds) {
+    const auto gate = std::make_shared<Gate>();
+    EndedWait waiting;
+    auto reader = gatedReader(gate, waiting, {std::chrono::hours{1}, std::chrono::hours{1}});
+    EXPECT_EQ(errorOf([&] { reader.read("m.wav"); }), basic::kDeviceIoError);
+    EXPECT_EQ(waiting.passes, 3);
+    gate->open();
+    gate->awaitLeaving();
+}
 
 TEST(MessageReader, LetsTheCallerLiveOnWhileItReads) {
     const auto gate = std::make_shared<Gate>();
