@@ -56,6 +56,8 @@ Blocks blocksOf(const WaveFormat& format, std::string_view name) {
     case WaveCodec::MsAdpcm:
         return adpcmBlocks(format, 7, 2, name);
     case WaveCodec::Gsm610:
+        if (format.channels != 1)
+            refuse(name, "the format chunk states GSM 6.10 of more than one channel.");
         return {0, kGsmBlock, kGsmFrames};
     default:
         return {format.bits, 0, 0};
