@@ -4,7 +4,7 @@
 // What the tests of the engine and the player stand on: sound that is written down, settings in a registry of
 // their own, message boxes and error reports that are recorded, and a clock that the test sets.
 
-#include "audio/clsWave.h"
+#include "tests/audio/ReachableWave.h"
 #include "tests/audio/RecordedSound.h"
 #include "tests/audio/SetClock.h"
 #include "tests/data/SettingsWorld.h"
@@ -17,14 +17,6 @@
 #include <vector>
 
 namespace audio {
-
-// The engine with what its owner cannot reach.
-class ReachableWave : public clsWave {
-public:
-    using clsWave::clsWave;
-    using clsWave::RunFilterGraph;
-    using clsWave::SetIsRecording;
-};
 
 class AudioWorld : public testing::Test {
 protected:
