@@ -1,66 +1,18 @@
 # SPDX-FileCopyrightText: 2026 The qmClient authors
 # SPDX-License-Identifier: GPL-3.0-or-later
-"""The real client plays messages of the demo share; what the device plays is recorded.
-
-Pictures of the window while a message plays are left in pictures/player/ beside the programs' folder.
-"""
+"""The real client plays messages of the demo share; what the device plays is recorded."""
 import sys
 import unittest
 
 sys.dont_write_bytecode = True
-from client import CLOSE, Client  # noqa: E402
-from desktop.sound import RATE, SoundServer, likeness, message  # noqa: E402
-from scene import SceneTest, run  # noqa: E402
-from site_folder import BIN, mailbox_folder, write_settings  # noqa: E402
-
-PICTURES = BIN.parent / 'pictures' / 'player'
-REGISTRY = BIN.parent / 'gst-registry.bin'  # what plug-ins there are is looked up once, not by each client
+from client import CLOSE  # noqa: E402
+from desktop.sound import RATE, likeness, message  # noqa: E402
+from play_scene import FAILED, PlayScene  # noqa: E402
 
 
-class PlayTest(SceneTest):
+class PlayTest(PlayScene):
     no_device = 'No audio device present on this system. Cannot play!'
     not_found = 'The audio file could not be found.'
-    language = 'en'
-
-    def setUp(self):
-        super().setUp()
-        self.desktop.env['GST_REGISTRY'] = str(REGISTRY)
-        self.sound = SoundServer(self.desktop)
-
-    def start_client(self, sound=True):
-        """Over one mailbox of the demo share, its window shown."""
-        if sound:
-            self.sound.start()
-        run('qmdemo', self.share, '--once')
-        self.number = min(int(entry.name) for entry in (self.share / 'MBX').iterdir())
-        write_settings(self.desktop.env['XDG_CONFIG_HOME'], self.share, {self.number: 'Reception'}, 600)
-        client = Client(self.desktop)
-        client.open()
-        self.calls = self.calls_by_mdbtools(self.number)[::-1]
-        client.wait_rows(len(self.calls))
-        return client
-
-    def row_of_message(self, seconds=(5, 12)):
-        """The first row of the list whose message has about so many seconds, and its file."""
-        for row, call in enumerate(self.calls):
-            if seconds[0] <= int(call['MessageLength']) <= seconds[1]:
-                return row, mailbox_folder(self.share, self.number) / f'{call["CallID"]}.wav'
-        self.fail('no such message in the demo share')
-
-    def picture(self, name):
-        PICTURES.mkdir(parents=True, exist_ok=True)
-        self.desktop.screenshot(PICTURES / f'{self.language}-{name}.png')
-
-    def message_box(self, text):
-        """Waits for a message box and answers it."""
-        self.desktop.wait_for(lambda: self.desktop.objects(self.client.process, 'label', f'^{text}$'),
-                              f'the message {text!r}', 20)
-        self.picture('message')
-        self.desktop.wait_for(lambda: self.desktop.windows.active() and
-                              self.desktop.windows.active().pid == self.client.process.pid, 'the focus')
-        self.desktop.key('Return')
-        self.desktop.wait_for(lambda: not self.desktop.objects(self.client.process, 'label', f'^{text}$'),
-                              'the message to close')
 
     def test_double_click_plays_a_message_whole_and_the_marker_moves(self):
         self.client = self.start_client()
@@ -112,16 +64,13 @@ class PlayTest(SceneTest):
         row, file = self.row_of_message()
         self.client.double_click(row)
         self.message_box(self.no_device)
-        self.client_answers_that_it_failed()
+        self.message_box(FAILED)
         self.sound.start()
         recording = self.sound.record()
         self.client.double_click(row)
         self.client.wait_position(10)
         self.client.wait_silent()
         self.assertGreater(likeness(recording.finish(), message(file)), 0.99)
-
-    def client_answers_that_it_failed(self):
-        self.message_box('(Error playing audio file!|Fehler beim Abspielen der Audio-Datei.)')
 
     def test_ends_by_the_tray_while_a_message_plays(self):
         self.client = self.start_client()

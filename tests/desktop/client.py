@@ -186,7 +186,10 @@ class Client:
 
     def ignore_errors(self):
         """Answers an error dialog that stands open; true if there was one."""
-        buttons = self._objects('push button', '^(Ignore|Ignorieren)$', showing=True)
+        return self.answer_error('^(Ignore|Ignorieren)$')
+
+    def answer_error(self, button):
+        buttons = self._objects('push button', button, showing=True)
         dialogs = [w for w in self.desktop.windows.all()
                    if w.pid == self.process.pid and 'MODAL' in w.states]
         if not buttons or not dialogs:

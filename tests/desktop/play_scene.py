@@ -1,0 +1,62 @@
+# SPDX-FileCopyrightText: 2026 The qmClient authors
+# SPDX-License-Identifier: GPL-3.0-or-later
+"""A client over the messages of the demo share, with a device whose sound is recorded.
+
+Pictures of the window while a message plays are left in pictures/player/ beside the programs' folder.
+"""
+from client import Client
+from desktop.sound import SoundServer
+from scene import SceneTest, run
+from site_folder import BIN, mailbox_folder, write_settings
+
+PICTURES = BIN.parent / 'pictures' / 'player'
+REGISTRY = BIN.parent / 'gst-registry.bin'  # what plug-ins there are is looked up once, not by each client
+FAILED = '(Error playing audio file!|Fehler beim Abspielen der Audio-Datei.)'
+
+
+class PlayScene(SceneTest):
+    language = 'en'
+
+    def setUp(self):
+        super().setUp()
+        self.desktop.env['GST_REGISTRY'] = str(REGISTRY)
+        self.sound = SoundServer(self.desktop)
+
+    def server_address(self):
+        """What the administrator writes for the server: a folder of this machine unless a test says otherwise."""
+        return self.share
+
+    def start_client(self, sound=True):
+        """Over one mailbox of the demo share, its window shown."""
+        if sound:
+            self.sound.start()
+        run('qmdemo', self.share, '--once')
+        self.number = min(int(entry.name) for entry in (self.share / 'MBX').iterdir())
+        write_settings(self.desktop.env['XDG_CONFIG_HOME'], self.server_address(), {self.number: 'Reception'}, 600)
+        client = Client(self.desktop)
+        client.open()
+        self.calls = self.calls_by_mdbtools(self.number)[::-1]
+        client.wait_rows(len(self.calls), 30)
+        return client
+
+    def row_of_message(self, seconds=(5, 12)):
+        """The first row of the list whose message has about so many seconds, and its file."""
+        for row, call in enumerate(self.calls):
+            if seconds[0] <= int(call['MessageLength']) <= seconds[1]:
+                return row, mailbox_folder(self.share, self.number) / f'{call["CallID"]}.wav'
+        self.fail('no such message in the demo share')
+
+    def picture(self, name):
+        PICTURES.mkdir(parents=True, exist_ok=True)
+        self.desktop.screenshot(PICTURES / f'{self.language}-{name}.png')
+
+    def message_box(self, text):
+        """Waits for a message box and answers it."""
+        self.desktop.wait_for(lambda: self.desktop.objects(self.client.process, 'label', f'^{text}$'),
+                              f'the message {text!r}', 20)
+        self.picture('message')
+        self.desktop.wait_for(lambda: self.desktop.windows.active() and
+                              self.desktop.windows.active().pid == self.client.process.pid, 'the focus')
+        self.desktop.key('Return')
+        self.desktop.wait_for(lambda: not self.desktop.objects(self.client.process, 'label', f'^{text}$'),
+                              'the message to close')
