@@ -5,6 +5,8 @@
 
 #include <gmock/gmock.h>
 
+#include <tuple>
+
 namespace app {
 namespace {
 
@@ -30,6 +32,19 @@ TEST_F(CallListTest, CallIDsKeepTheirQuotesBackslashesAndDots) {
     }
     EXPECT_EQ(told.size(), calls.size());
     EXPECT_TRUE(errorHandler.reports.empty());
+}
+
+TEST_F(CallListTest, ColumnsHaveTheirHeadersWidthsAndAlignments) {
+    mailbox(12);
+    load();
+    std::vector<std::tuple<std::string, int, int>> columns;
+    for (int i = 1; i <= list().ColumnHeaders().Count(); ++i) {
+        const auto& header = list().ColumnHeaders().Item(i);
+        columns.emplace_back(header.Text, header.Width.value, header.Alignment);
+    }
+    EXPECT_THAT(columns, ElementsAre(std::tuple("", 70, 0), std::tuple("Date", 1700, 1),
+                                     std::tuple("Caller ID", 900, 1), std::tuple("Caller Name", 1000, 1),
+                                     std::tuple("Message", 600, 1)));
 }
 
 TEST_F(CallListTest, NamesAreShownAsTheyStand) {

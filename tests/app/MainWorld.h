@@ -12,6 +12,7 @@
 #include "platform/jet/Engine.h"
 #include "platform/registry/Registry.h"
 #include "platform/share/LocalFileSystemObject.h"
+#include "platform/shell/NotifyIconRecord.h"
 #include "platform/shell/help/DesktopHelp.h"
 #include "tests/app/OptionsUser.h"
 #include "tests/audio/RecordedSound.h"
@@ -37,10 +38,12 @@ namespace app {
 class QuietNotificationArea final : public shell::NotificationArea {
 public:
     bool Shell_NotifyIconA(std::uint32_t, std::span<const std::byte>) override { return true; }
-    bool Shell_NotifyIconW(std::uint32_t message, std::span<const std::byte>) override {
+    bool Shell_NotifyIconW(std::uint32_t message, std::span<const std::byte> record) override {
         if (message == failing)
             throw basic::RuntimeError(basic::kInvalidProcedureCall);
         messages.push_back(message);
+        if (const auto read = shell::readNotifyIconW(record); read && read->tip)
+            tip = *read->tip;
         if (onMessage)
             onMessage(message);
         return true;
@@ -52,6 +55,7 @@ public:
     void trackPopupMenu(shell::WindowHandle) override { ++tracked; }
 
     std::function<void(std::uint32_t)> onMessage;
+    std::u16string tip;                   // the last one told
     std::vector<std::uint32_t> messages;  // NIM_ADD 0, NIM_MODIFY 1, NIM_DELETE 2, NIM_SETVERSION 4
     std::optional<std::uint32_t> failing; // the message that throws
     QMenu* menu = nullptr;

@@ -77,15 +77,41 @@ TEST_F(PollAheadTest, PollsOnceMoreForAllTicksThatComeMeanwhile) {
     configure({12});
     mailbox(12).append(12);
     loadAndLearn();
+    mailbox(12).append(3);
+    int polls = 0; // that found new calls
+    QObject::connect(&*window, &frmMain::ItemChanged, &*window, [&] {
+        ++polls;
+        mailbox(12).append(1);
+    });
     m_samba.pause();
     tick();
     tick();
     tick();
     m_samba.resume();
     finishPoll();
-    EXPECT_EQ(popup(), nullptr);
+    EXPECT_EQ(polls, 2);
+    EXPECT_EQ(popupText(), "You have  4  new calls");
+}
+
+TEST_F(PollAheadTest, AnswersThatComeInsideOfAWaitAreLeftForAfterIt) {
+    configure({12});
+    mailbox(12).append(12);
+    std::vector<std::function<void()>> later;
+    bool isWaiting = false;
+    shareAccess.afterWaiting = [&](std::function<void()> work) {
+        if (isWaiting)
+            later.push_back(std::move(work));
+        else
+            work();
+    };
+    loadAndLearn();
     mailbox(12).append(3);
-    tickAndFinish();
+    tick();
+    isWaiting = true;
+    finishPoll();
+    EXPECT_EQ(popup(), nullptr);
+    ASSERT_EQ(later.size(), 1U);
+    later[0]();
     EXPECT_EQ(popupText(), "You have  3  new calls");
 }
 

@@ -42,6 +42,10 @@ TEST_F(TrayEventsTest, MenuHasItsItemsInOrderWithViewCallLogAsDefault) {
     EXPECT_EQ(notificationArea.menu->defaultAction(), notificationArea.menu->actions().at(0));
 }
 
+TEST_F(TrayEventsTest, TipIsTheProductsName) {
+    EXPECT_EQ(notificationArea.tip, u"Quillamar");
+}
+
 TEST_F(TrayEventsTest, DoubleClickShowsTheWindow) {
     notify(kLeftDouble);
     EXPECT_TRUE(window->isVisible());
