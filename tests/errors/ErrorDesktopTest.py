@@ -8,14 +8,17 @@ import email
 import email.policy
 import os
 import pathlib
+import shutil
 import sys
 import unittest
 import urllib.parse
 
 sys.dont_write_bytecode = True
 from error_scene import RECORD, ErrorTest, with_damaged_definition  # noqa: E402
+from client import Client  # noqa: E402
 from desktop import wait_until  # noqa: E402
 from scene import FIRST, SECOND  # noqa: E402
+from site_folder import program  # noqa: E402
 
 ARTEFACTS = pathlib.Path(os.environ['QM_BIN']).parent / 'artefacts' / 'errors'
 ARTEFACTS.mkdir(parents=True, exist_ok=True)
@@ -44,11 +47,37 @@ class PollTest(ErrorTest):
             self.assertGreater(int(line), 0)
             self.assertIn(rf'MBX\{FIRST}\qmLog.mdb', description)
 
+    def test_try_again_runs_the_failing_statement_itself_not_the_next_tick(self):
+        self.break_first_poll()
+        self.replace(FIRST, self.sound)
+        self.press(self.RETRY)
+        self.client.open()
+        self.client.wait_rows(12)
+        self.assertEqual(len(self.records()), 2)
+
     def test_ignore_goes_on_with_the_next_mailbox(self):
         self.break_client()
         self.add_calls(SECOND, 1)
         self.press(self.IGNORE)
         self.client.wait_popup_past_errors(1)
+
+    def test_the_log_is_the_programs_and_lies_with_its_state_where_its_folder_takes_no_file(self):
+        renamed = self.desktop.folder / 'tools' / 'calls.exe'
+        shutil.copy(program('qmClient'), renamed)
+        self.make_mailbox(FIRST, 1)
+        self.replace(FIRST, with_damaged_definition(self.keep(FIRST)))
+        self.write_settings([FIRST])
+        self.client = Client(self.desktop, renamed, cwd='/proc')
+        self.wait_button(self.RETRY)
+        log = self.desktop.folder / 'state' / 'Corvantis' / 'Quillamar' / 'calls.log'
+        self.assertGreaterEqual(len(RECORD.findall(log.read_bytes().decode())), 1)
+        self.press('Details >>')
+        wait_until(lambda: 'Quillamar Client (calls)' in self.texts(), 'the program in the details')
+
+    def texts(self):
+        """What the dialog's fields of one line hold."""
+        return [self.desktop.reader().ask('text', where=field['where'])
+                for field in self.desktop.objects(self.client.process, 'text')]
 
     def test_a_failure_can_be_read_in_the_log_while_its_dialog_is_up(self):
         self.break_client()
@@ -107,6 +136,18 @@ class GermanTest(ErrorTest):
         for caption in ('Senden', 'Ignorieren', 'Wiederholen', 'Abbrechen', 'Details >>'):
             self.assertTrue(self.button(caption), caption)
         take_pictures(self, 'de')
+
+    def test_the_question_about_the_report_is_german_and_so_is_its_subject(self):
+        self.record_calls_of('sendmail')
+        self.break_client()
+        self.press('Senden')
+        for caption in ('Ja', 'Nein', 'Abbrechen'):
+            self.wait_button(caption)
+        self.press('Nein')
+        _, message = self.call_of('sendmail')
+        mail = email.message_from_bytes(message, policy=email.policy.default)
+        self.assertEqual(mail['Subject'], 'Quillamar Client Fehler-Bericht:Quillamar Client (qmClient)')
+        self.press('OK')
 
 
 class EnglishTest(ErrorTest):

@@ -7,6 +7,7 @@ import sys
 
 sys.dont_write_bytecode = True
 sys.path.insert(0, str(pathlib.Path(__file__).resolve().parents[1] / 'desktop'))
+from client import Client  # noqa: E402
 from desktop import wait_until  # noqa: E402
 from scene import FIRST, SECOND, SceneTest  # noqa: E402
 
@@ -42,6 +43,19 @@ class ErrorTest(SceneTest):
         self.replace(FIRST, with_damaged_definition(self.sound))
         self.wait_button(self.RETRY)
 
+    def break_first_poll(self):
+        """A client whose first poll fails at a damaged database; the next one comes in an hour."""
+        self.make_mailbox(FIRST, 12)
+        self.sound = self.keep(FIRST)
+        self.replace(FIRST, with_damaged_definition(self.sound))
+        self.write_settings([FIRST], seconds=3600)
+        self.client = Client(self.desktop)
+        self.client.wait_docked()
+        self.press(self.CANCEL)  # the list's failure
+        self.wait_records(2)
+        self.wait_button(self.RETRY)
+        self.assertEqual([record[2] for record in self.records()], ['LoadList', 'mTimer_ThatTime'])
+
     IGNORE, RETRY, CANCEL, SEND, DETAILS = 'Ignore', 'Try again', 'Cancel', 'Send', 'Details >>'
 
     def button(self, caption):
@@ -54,6 +68,14 @@ class ErrorTest(SceneTest):
 
     def press(self, caption):
         self.desktop.click_object(self.wait_button(caption), self.desktop.windows.active())
+
+    def key(self, *keys):
+        """Once the dialog has the keyboard: it goes for a moment between two failures, and comes back."""
+        def has_keyboard():
+            return (self.button(self.CANCEL) and int(self.desktop.run(['xdotool', 'getwindowfocus', '-f']))
+                    == self.desktop.windows.active().id)
+        wait_until(has_keyboard, 'the dialog to have the keyboard')
+        self.desktop.key(*keys)
 
     def log(self):
         file = self.desktop.folder / 'home' / 'qmClient.log'

@@ -5,8 +5,8 @@ from gi.repository import Gio, GLib
 
 from answering import run
 
-ACCESSIBLE, COMPONENT, TABLE, VALUE = (f'org.a11y.atspi.{name}'
-                                       for name in ('Accessible', 'Component', 'Table', 'Value'))
+ACCESSIBLE, COMPONENT, TABLE, TEXT, VALUE = (f'org.a11y.atspi.{name}'
+                                       for name in ('Accessible', 'Component', 'Table', 'Text', 'Value'))
 REGISTRY, ROOT = 'org.a11y.atspi.Registry', '/org/a11y/atspi/accessible/root'
 STATE_SHOWING, STATE_SELECTED, STATE_FOCUSED, STATE_ENABLED = 25, 23, 12, 8
 SCREEN_COORDINATES = 0
@@ -119,6 +119,10 @@ class Reader:
                               GLib.Variant('(ss)', (VALUE, name)))[0]
                    for name in ('CurrentValue', 'MinimumValue', 'MaximumValue')]
         return [*numbers, self._property(where, 'Description')]
+
+    def do_text(self, where):
+        """What a field holds."""
+        return self._call(where, TEXT, 'GetText', GLib.Variant('(ii)', (0, -1)))[0]
 
     def _cell_at(self, where, row, column):
         return self._call(where, TABLE, 'GetAccessibleAt', GLib.Variant('(ii)', (row, column)))[0]
