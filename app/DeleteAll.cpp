@@ -4,6 +4,7 @@
 
 #include "app/Keys.h"
 #include "data/CallLog.h"
+#include "errors/ErrorsIgnored.h"
 #include "platform/basic/Conversion.h"
 #include "platform/basic/RuntimeError.h"
 #include "platform/forms/Events.h"
@@ -79,13 +80,13 @@ bool DeleteAll::emptyLog(errors::Procedure& proc, std::int32_t mailboxID,
            proc.step([&] { connection->CommitTrans(); });
 }
 
-// Only of a mailbox that has a tab: with a single one the files stay.
+// Only of a mailbox that has a tab: with a single one the files stay. Files in use or a share that is gone
+// are not reported.
 void DeleteAll::deleteMessages(std::int32_t mailboxID, const std::string& server) const noexcept {
-    try {
+    errors::withErrorsIgnored([&] {
         if (selectedMailbox() == mailboxID)
             m_parts.files.DeleteFile(data::messageFiles(m_parts.common.GetQMPath(server), mailboxID), false);
-    } catch (...) { // NOLINT(bugprone-empty-catch): files in use or a share that is gone are not reported
-    }
+    });
 }
 
 } // namespace app

@@ -3,6 +3,7 @@
 #include "app/HelpCommands.h"
 
 #include "dialogs/frmAbout.h"
+#include "errors/ErrorsIgnored.h"
 #include "platform/forms/ModalState.h"
 
 #include <QScreen>
@@ -20,12 +21,11 @@ void moveToTheMiddle(QWidget& box) {
 
 // No trap (frmMain, ShowHelp): ignores all errors.
 void HelpCommands::ShowHelp() noexcept {
-    try {
+    errors::withErrorsIgnored([&] {
         m_parts.services.viewer.HtmlHelpA(&m_parts.owner,
                                           m_parts.services.applicationFolder + u"/Quillamar_Client.chm",
                                           shell::HH_DISPLAY_TOPIC, QStringLiteral("Client_Welcome.htm"));
-    } catch (...) { // NOLINT(bugprone-empty-catch): stated so for the help
-    }
+    });
 }
 
 void HelpCommands::showAbout() {

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "app/ListEvents.h"
 
+#include "errors/ErrorsIgnored.h"
 #include "errors/Procedure.h"
 #include "platform/forms/MouseButtons.h"
 
@@ -40,13 +41,11 @@ void ListEvents::lsCalls_MouseUp(int button, const QPoint& globalPos) {
 
 // No trap (frmMain, TabStrip_Click): ignores all errors.
 void ListEvents::TabStrip_Click() {
-    try {
-        m_parts.state.currentConnection.reset();
-        m_parts.main.LoadList();
-        m_parts.main.ChangeItem();
-        m_parts.main.UpdateButtonStates();
-    } catch (const std::exception&) { // NOLINT(bugprone-empty-catch): stated so for this handler
-    }
+    using errors::withErrorsIgnored;
+    withErrorsIgnored([&] { m_parts.state.currentConnection.reset(); });
+    withErrorsIgnored([&] { m_parts.main.LoadList(); });
+    withErrorsIgnored([&] { m_parts.main.ChangeItem(); });
+    withErrorsIgnored([&] { m_parts.main.UpdateButtonStates(); });
 }
 
 } // namespace app

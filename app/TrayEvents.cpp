@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "app/TrayEvents.h"
 
+#include "errors/ErrorsIgnored.h"
 #include "errors/Procedure.h"
 #include "platform/forms/MouseButtons.h"
 #include "resources/LocalText.h"
@@ -12,15 +13,6 @@ namespace {
 using resources::localText;
 
 constexpr int kExitDelayMs = 200;
-
-// Clicks on the icon never bother the user with a failure.
-template <typename Action>
-void withErrorsIgnored(Action&& action) {
-    try {
-        action();
-    } catch (const std::exception&) { // NOLINT(bugprone-empty-catch): stated so for these handlers
-    }
-}
 
 } // namespace
 
@@ -41,13 +33,13 @@ void TrayEvents::attach(tray::frmSysTray& icon) {
 
 // No trap (frmMain, m_frmSysTray_SysTrayDoubleClick): ignores all errors.
 void TrayEvents::m_frmSysTray_SysTrayDoubleClick() {
-    withErrorsIgnored([this] { m_parts.main.showWindow(); });
+    errors::withErrorsIgnored([this] { m_parts.main.showWindow(); });
 }
 
 // No trap (frmMain, m_frmSysTray_SysTrayMouseDown): ignores all errors.
 void TrayEvents::m_frmSysTray_SysTrayMouseDown(tray::frmSysTray& icon, int button) {
     if (button == forms::kRightButton)
-        withErrorsIgnored([&icon] { icon.ShowMenu(); });
+        errors::withErrorsIgnored([&icon] { icon.ShowMenu(); });
 }
 
 void TrayEvents::m_frmSysTray_MenuClick(const QString& key) {

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "app/WindowMessages.h"
 
+#include "errors/ErrorsIgnored.h"
 #include "errors/Procedure.h"
 #include "platform/basic/Twips.h"
 #include "platform/forms/Coordinates.h"
@@ -41,12 +42,11 @@ void WindowMessages::detach() {
 
 // No trap (frmMain, Form_Resize): lays out with all errors ignored.
 void WindowMessages::layOut() noexcept {
-    try {
+    errors::withErrorsIgnored([&] {
         m_list.setGeometry(
             forms::toPixels(minus(m_tabStrip.ClientLeft(), kToTheLeft), plus(m_tabStrip.ClientTop(), kLower),
                             plus(m_tabStrip.ClientWidth(), kWider), m_tabStrip.ClientHeight()));
-    } catch (...) { // NOLINT(bugprone-empty-catch): the next size lays out again
-    }
+    });
 }
 
 std::intptr_t WindowMessages::ISubclass_WindowProc(std::uintptr_t /*hwnd*/, std::uint32_t message,

@@ -6,6 +6,7 @@
 #include "app/ListAndTabs.h"
 #include "app/LoadCaptions.h"
 #include "app/Shortcuts.h"
+#include "errors/ErrorsIgnored.h"
 #include "errors/Procedure.h"
 #include "platform/basic/ObjectOf.h"
 #include "platform/forms/ListViewMacros.h"
@@ -27,10 +28,12 @@ using resources::localText;
 
 constexpr QSize kFirstSize{760, 460};
 
-// Whoever else was handed the connection finds it closed.
+// Whoever else was handed the connection finds it closed. One that does not close is left as it is.
 void release(std::shared_ptr<jet::Connection>& connection) {
-    if (connection)
-        connection->Close();
+    errors::withErrorsIgnored([&] {
+        if (connection)
+            connection->Close();
+    });
     connection.reset();
 }
 

@@ -2,11 +2,11 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "audio/basAudio.h"
 
+#include "errors/ErrorsIgnored.h"
 #include "errors/Procedure.h"
 #include "platform/forms/Events.h"
 
 #include <chrono>
-#include <exception>
 #include <thread>
 
 namespace audio {
@@ -43,11 +43,8 @@ std::vector<mediagraph::WaveOutCaps> basAudio::allDevices(std::uint32_t count) {
 void basAudio::PauseWithEvents(const std::int32_t& milliseconds) {
     const std::int32_t slice = milliseconds / kRounds;
     for (int round = 0; round < kRounds; ++round) {
-        try {
-            m_sleep(slice);
-            forms::doEvents();
-        } catch (const std::exception&) { // NOLINT(bugprone-empty-catch): a wait has nobody to tell
-        }
+        errors::withErrorsIgnored([&] { m_sleep(slice); });
+        errors::withErrorsIgnored([] { forms::doEvents(); });
     }
 }
 

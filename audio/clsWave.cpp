@@ -6,6 +6,7 @@
 #include "audio/PositionSteps.h"
 #include "audio/Required.h"
 #include "audio/WaveErrors.h"
+#include "errors/ErrorsIgnored.h"
 #include "platform/basic/Conversion.h"
 #include "platform/basic/TextCompare.h"
 #include "platform/forms/Text.h"
@@ -165,10 +166,8 @@ void clsWave::RunFilterGraph() {
     errors::Procedure proc{m_services.errorHandler, "clsWave", "clsWave.RunFilterGraph"};
     bool runs = true;
     if (m_PlayState == kStopped) {
-        try {
-            position()->SetCurrentPosition(0);
-        } catch (const std::exception&) { // NOLINT(bugprone-empty-catch): a new graph is at its beginning
-        }
+        // A new graph is at its beginning.
+        errors::withErrorsIgnored([&] { position()->SetCurrentPosition(0); });
     } else if (m_PlayState == kPlaying) {
         proc.step([&] { runs = rewindForRestart(*position()); });
     }

@@ -3,6 +3,7 @@
 #include "audio/ctlAudio.h"
 
 #include "audio/PositionAccess.h"
+#include "errors/ErrorsIgnored.h"
 #include "errors/EventDoor.h"
 #include "platform/basic/Conversion.h"
 #include "platform/forms/Edges.h"
@@ -17,12 +18,11 @@
 #include <QPainter>
 #include <QStyleOptionFocusRect>
 
-#include <exception>
-
 namespace audio {
 namespace {
 
 using basic::Twips;
+using errors::withErrorsIgnored;
 using resources::LoadLocalString;
 
 constexpr std::int32_t kTimerMs = 200;
@@ -33,15 +33,6 @@ constexpr Twips kTrackTop{60};
 constexpr Twips kMarkerTop{15};
 constexpr Twips kMarkerWidth{120};
 constexpr int kFirstWidth = 120; // logical pixels
-
-// The layout goes on whatever one of its steps meets.
-template <typename Step>
-void withErrorsIgnored(Step&& step) {
-    try {
-        step();
-    } catch (const std::exception&) { // NOLINT(bugprone-empty-catch): stated so for the layout
-    }
-}
 
 } // namespace
 

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "errors/frmError.h"
 
+#include "errors/ErrorsIgnored.h"
 #include "platform/forms/Text.h"
 #include "resources/ProductData.h"
 #include "resources/StringTable.h"
@@ -106,12 +107,12 @@ void frmError::cmdDetails_Click() {
 }
 
 void frmError::cmdSend_Click() {
-    try {
+    // Reporting a failure of it would show this dialog again.
+    withErrorsIgnored([&] {
         m_sender->send({m_controls.txtComponent->text(), m_controls.txtVersion->text(),
                         m_controls.txtModule->text(), m_controls.txtOS->text(), m_error},
                        *this);
-    } catch (...) { // NOLINT(bugprone-empty-catch): reporting it would show this dialog again
-    }
+    });
 }
 
 void frmError::setHeight(basic::Twips height) {

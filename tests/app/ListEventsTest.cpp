@@ -1,9 +1,13 @@
 // SPDX-FileCopyrightText: 2026 The qmClient authors
 // SPDX-License-Identifier: GPL-3.0-or-later
 // What the user's clicks on the list and on the tabs do in the real window.
+#include "app/ListEvents.h"
+
 #include "tests/app/MainWorld.h"
+#include "tests/app/ScriptedMain.h"
 
 #include <QApplication>
+#include <QMainWindow>
 #include <QMenu>
 #include <QTabBar>
 #include <QTest>
@@ -126,6 +130,25 @@ TEST_F(ListEventsTest, WithoutASelectedTabASelectedItemIsNotTold) {
     window->ChangeItem();
     EXPECT_TRUE(list().SelectedItem().has_value());
     EXPECT_EQ(told.back(), "-1");
+}
+
+TEST(TabStripClick, GoesOnAfterAStatementThatFails) {
+    errors::RecordingErrorHandler errorHandler;
+    QMainWindow window;
+    forms::CommandBar ab{window};
+    forms::ListView list;
+    forms::TabStrip tabStrip;
+    MainState state;
+    const std::vector<std::string> statements{"LoadList", "ChangeItem", "UpdateButtonStates"};
+    for (const std::string& failing : statements) {
+        ScriptedMain main;
+        main.failing = failing;
+        const ListEvents events({errorHandler, list, tabStrip, ab, state, main});
+        Q_EMIT tabStrip.Click();
+        for (const std::string& statement : statements)
+            EXPECT_EQ(main.did(statement), statement != failing) << statement << " after " << failing;
+    }
+    EXPECT_TRUE(errorHandler.reports.empty());
 }
 
 } // namespace

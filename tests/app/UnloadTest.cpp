@@ -44,6 +44,18 @@ TEST_F(UnloadTest, IsCarriedOutOnce) {
     EXPECT_EQ(notificationArea.messages.size(), calls);
 }
 
+TEST_F(UnloadTest, ConnectionThatDoesNotCloseIsReleasedAndNotReported) {
+    window->showWindow();
+    list().SetSelectedItem(list().ListItems().Item(1));
+    window->ChangeItem();
+    const auto connection = window->state().currentConnection;
+    ASSERT_NE(connection, nullptr);
+    connection->Close(); // a second time is an error
+    window->unload(UnloadMode::Code);
+    EXPECT_EQ(window->state().currentConnection, nullptr);
+    EXPECT_TRUE(errorHandler.reports.empty());
+}
+
 TEST_F(UnloadTest, UserOnlyHidesTheWindow) {
     window->showWindow();
     window->unload(UnloadMode::User);

@@ -86,6 +86,17 @@ TEST_F(AudioDevicesTest, PauseIgnoresFailures) {
     EXPECT_THAT(errorHandler.reports, IsEmpty());
 }
 
+TEST_F(AudioDevicesTest, PauseLetsEventsRunAfterASleepThatFails) {
+    int seen = 0;
+    basAudio wait{errorHandler, sound, [&](std::int32_t) {
+                      QMetaObject::invokeMethod(
+                          qApp, [&] { ++seen; }, Qt::QueuedConnection);
+                      throw std::runtime_error("interrupted");
+                  }};
+    wait.PauseWithEvents(500);
+    EXPECT_EQ(seen, 10);
+}
+
 TEST_F(AudioDevicesTest, RealPauseLastsItsTime) {
     basAudio wait{errorHandler, sound};
     const auto start = std::chrono::steady_clock::now();
