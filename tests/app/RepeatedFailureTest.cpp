@@ -5,7 +5,7 @@
 #include "errors/basErrHandling.h"
 #include "errors/frmError.h"
 #include "tests/app/MainWorld.h"
-#include "tests/errors/TemporaryFolder.h"
+#include "tests/errors/WorkingFolder.h"
 
 #include <QApplication>
 #include <QPushButton>
@@ -42,7 +42,7 @@ protected:
         return count;
     }
 
-    errors::TemporaryFolder m_folder;
+    errors::WorkingFolder m_folder;
     SetClock m_clock;
     errors::ErrorDialogState m_state;
     int m_dialogsMade = 0;

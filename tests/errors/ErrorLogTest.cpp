@@ -4,7 +4,7 @@
 
 #include "platform/basic/RuntimeError.h"
 #include "tests/errors/DiskSync.h"
-#include "tests/errors/TemporaryFolder.h"
+#include "tests/errors/WorkingFolder.h"
 
 #include <fcntl.h>
 #include <gtest/gtest.h>
@@ -29,8 +29,8 @@ protected:
     fs::path inFallback() const { return fs::path(fallback()) / "qmClient.log"; }
     fs::path inWorkingFolder() const { return m_working.path() / "qmClient.log"; }
 
-    TemporaryFolder m_state;
-    TemporaryFolder m_working; // the later one is the working directory
+    WorkingFolder m_state;
+    WorkingFolder m_working; // the later one is the working directory
 };
 
 TEST_F(ErrorLogTest, LiesInTheWorkingDirectory) {

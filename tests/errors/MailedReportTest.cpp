@@ -6,7 +6,7 @@
 #include "platform/basic/RuntimeError.h"
 #include "platform/shell/DesktopMail.h"
 #include "resources/StringTable.h"
-#include "tests/errors/TemporaryFolder.h"
+#include "tests/errors/WorkingFolder.h"
 
 #include <QWidget>
 
@@ -159,7 +159,7 @@ TEST_F(MailedReportTest, WithoutAMailProgramItSaysSoAndAsksNothing) {
 
 TEST_F(MailedReportTest, OnAMachineWithoutMailProgramsThatIsSaidAtOnce) {
     const std::string before = std::getenv("PATH");
-    const TemporaryFolder empty;
+    const WorkingFolder empty;
     ::setenv("PATH", empty.path().c_str(), 1);
     shell::DesktopMail mail{QString(), {}};
     MailedReport(mail, m_boxes, m_clock).send(kFields, m_window);

@@ -3,7 +3,7 @@
 #include "errors/basErrHandling.h"
 
 #include "tests/errors/DiskSync.h"
-#include "tests/errors/TemporaryFolder.h"
+#include "tests/errors/WorkingFolder.h"
 
 #include <gtest/gtest.h>
 
@@ -84,7 +84,7 @@ protected:
         });
     }
 
-    TemporaryFolder m_folder;
+    WorkingFolder m_folder;
     FixedClock m_clock;
     Script m_script;
     basErrHandling m_handler{ErrorLog("qmClient.log", ""), m_clock,

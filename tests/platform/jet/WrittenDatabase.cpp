@@ -12,7 +12,6 @@
 
 #include <array>
 #include <cstdio>
-#include <cstdlib>
 #include <stdexcept>
 
 namespace jet::test {
@@ -46,18 +45,6 @@ std::uint32_t storedCount(share::File& file, std::string_view table) {
 void checkDatabase(share::File& file) {
     PageReader pages(file, 0);
     Checker(pages).run();
-}
-
-TemporaryFolder::TemporaryFolder() {
-    std::string pattern = (std::filesystem::temp_directory_path() / "qmjetXXXXXX").string();
-    if (mkdtemp(pattern.data()) == nullptr)
-        throw std::runtime_error("no temporary folder");
-    m_path = pattern;
-}
-
-TemporaryFolder::~TemporaryFolder() {
-    std::error_code ignored;
-    std::filesystem::remove_all(m_path, ignored);
 }
 
 std::string runTool(const std::string& command) {

@@ -8,14 +8,15 @@
 #include "platform/jet/DatabaseBuilder.h"
 #include "platform/jet/PageSource.h"
 #include "platform/share/LocalFile.h"
+#include "tests/platform/share/TemporaryFolder.h"
 
-#include <filesystem>
 #include <memory>
 #include <string>
 #include <vector>
 
 namespace jet::test {
 
+using share::testing::TemporaryFolder;
 using Values = std::vector<basic::Variant>;
 
 // A Tuesday noon.
@@ -30,18 +31,6 @@ void checkDatabase(share::File& file);
 
 // The standard output of a command, which must succeed.
 std::string runTool(const std::string& command);
-
-class TemporaryFolder {
-public:
-    TemporaryFolder();
-    ~TemporaryFolder();
-    TemporaryFolder(const TemporaryFolder&) = delete;
-    TemporaryFolder& operator=(const TemporaryFolder&) = delete;
-    std::string path(const std::string& name) const { return (m_path / name).string(); }
-
-private:
-    std::filesystem::path m_path;
-};
 
 class WrittenDatabase {
 public:

@@ -5,36 +5,20 @@
 // everything in it at the end.
 
 #include "platform/registry/Registry.h"
-
-#include <stdlib.h>
+#include "tests/platform/share/TemporaryFolder.h"
 
 #include <filesystem>
 #include <fstream>
 #include <iterator>
-#include <stdexcept>
 #include <string>
-#include <system_error>
 
 namespace registry {
 
 class RegistryFolder {
 public:
-    RegistryFolder() {
-        std::string name = (std::filesystem::temp_directory_path() / "registryXXXXXX").string();
-        if (::mkdtemp(name.data()) == nullptr)
-            throw std::runtime_error("no temporary folder");
-        m_folder = name;
-    }
-    RegistryFolder(const RegistryFolder&) = delete;
-    RegistryFolder& operator=(const RegistryFolder&) = delete;
-    ~RegistryFolder() {
-        std::error_code ignored;
-        std::filesystem::remove_all(m_folder, ignored);
-    }
-
-    const std::filesystem::path& folder() const { return m_folder; }
-    std::string userFile() const { return m_folder / "user" / "registry.reg"; }
-    std::string machineFile() const { return m_folder / "machine" / "registry.reg"; }
+    std::filesystem::path folder() const { return m_folder.path(); }
+    std::string userFile() const { return m_folder.path("user/registry.reg"); }
+    std::string machineFile() const { return m_folder.path("machine/registry.reg"); }
     RegistryPaths paths() const { return {userFile(), {machineFile()}}; }
 
     // Makes the file's folder too.
@@ -52,7 +36,7 @@ public:
     }
 
 private:
-    std::filesystem::path m_folder;
+    share::testing::TemporaryFolder m_folder;
 };
 
 } // namespace registry

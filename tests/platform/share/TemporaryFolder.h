@@ -5,11 +5,13 @@
 
 #include <gtest/gtest.h>
 
+#include <cerrno>
 #include <cstdlib>
 #include <filesystem>
 #include <fstream>
 #include <string>
 #include <string_view>
+#include <system_error>
 
 namespace share::testing {
 
@@ -18,7 +20,8 @@ public:
     TemporaryFolder() {
         std::string path = (std::filesystem::temp_directory_path() / "qm-test-XXXXXX").string();
         if (::mkdtemp(path.data()) == nullptr)
-            throw std::filesystem::filesystem_error("mkdtemp", path, std::error_code());
+            throw std::filesystem::filesystem_error("mkdtemp", path,
+                                                    std::error_code(errno, std::generic_category()));
         m_path = path;
     }
     TemporaryFolder(const TemporaryFolder&) = delete;

@@ -18,12 +18,12 @@ inline std::string contentOf(const std::filesystem::path& file) {
     return text.str();
 }
 
-class TemporaryFolder {
+class WorkingFolder {
 public:
-    TemporaryFolder() : m_before(std::filesystem::current_path()) { std::filesystem::current_path(path()); }
-    TemporaryFolder(const TemporaryFolder&) = delete;
-    TemporaryFolder& operator=(const TemporaryFolder&) = delete;
-    ~TemporaryFolder() {
+    WorkingFolder() : m_before(std::filesystem::current_path()) { std::filesystem::current_path(path()); }
+    WorkingFolder(const WorkingFolder&) = delete;
+    WorkingFolder& operator=(const WorkingFolder&) = delete;
+    ~WorkingFolder() {
         std::error_code ignored;
         std::filesystem::current_path(m_before, ignored);
     }
