@@ -9,6 +9,7 @@
 #include "app/SearchedShares.h"
 #include "data/ShareMappings.h"
 #include "platform/basic/RuntimeError.h"
+#include "platform/forms/ModalState.h"
 #include "platform/forms/Text.h"
 #include "platform/forms/UserLocale.h"
 #include "platform/jet/Connection.h"
@@ -55,6 +56,12 @@ std::string serverOf(const std::string& share) {
 
 forms::MessageBoxButtonTexts buttonTexts() {
     return {localText(5000, "OK"), localText(5001, "Cancel"), localText(5002, "Yes"), localText(5003, "No")};
+}
+
+// Beside a modal window the main one cannot be shown: the user can only go on with that one.
+void activate(frmMain& window) {
+    if (!forms::bringModalToFront())
+        window.showWindow();
 }
 
 } // namespace
@@ -220,7 +227,7 @@ bool Program::reaches(const std::string& share) {
 
 void Program::connectEvents(SingleInstance& instance) {
     const OutsideEvents events{m_errorHandler,
-                               {[this] { m_main.showWindow(); }, [this] { m_main.notificationAreaMissing(); },
+                               {[this] { activate(m_main); }, [this] { m_main.notificationAreaMissing(); },
                                 [this] { m_main.notificationAreaReturned(); },
                                 [this] { m_main.unload(UnloadMode::SessionEnd); }}};
     QObject::connect(&m_main, &frmMain::unloaded, qApp, &QCoreApplication::quit, Qt::QueuedConnection);

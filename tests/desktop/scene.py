@@ -20,12 +20,13 @@ class SceneTest(unittest.TestCase):
 
     lang = 'C.UTF-8'
     size = '1024x768'
+    tray = 'trayer'
     accessibility = True
 
     def setUp(self):
         stack = contextlib.ExitStack()
         self.addCleanup(stack.close)
-        self.desktop = stack.enter_context(Desktop(self.size, lang=self.lang, tray='trayer',
+        self.desktop = stack.enter_context(Desktop(self.size, lang=self.lang, tray=self.tray,
                                                    accessibility=self.accessibility))
         self.share = self.desktop.folder / 'share'
         (self.share / 'MBX').mkdir(parents=True)
