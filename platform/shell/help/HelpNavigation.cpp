@@ -16,6 +16,7 @@ namespace shell::help {
 namespace {
 
 constexpr int kAddressRole = Qt::UserRole;
+constexpr int kHintAlpha = 150; // of 255
 
 QTreeWidgetItem* parentOf(const std::vector<QTreeWidgetItem*>& open, int level) {
     const auto deepest = static_cast<int>(open.size());
@@ -54,6 +55,16 @@ void HelpNavigation::build(const HelpTexts& texts) {
     auto* layout = new QVBoxLayout(this);
     layout->addWidget(m_txtSearch);
     layout->addWidget(m_pages);
+    colourHint();
+}
+
+// Where a desktop names its colours but none for hints, the toolkit keeps the one of a light theme.
+void HelpNavigation::colourHint() {
+    QColor hint = palette().color(QPalette::Text);
+    hint.setAlpha(kHintAlpha);
+    QPalette colours;
+    colours.setColor(QPalette::PlaceholderText, hint);
+    m_txtSearch->setPalette(colours);
 }
 
 void HelpNavigation::setBook(std::shared_ptr<const HelpBook> book) {
@@ -123,6 +134,12 @@ void HelpNavigation::chooseFound() {
     const QUrl address = item != nullptr ? item->data(kAddressRole).toUrl() : QUrl();
     if (address.isValid())
         Q_EMIT pageWanted(address, HelpSearch::wordsOf(m_txtSearch->text()));
+}
+
+void HelpNavigation::changeEvent(QEvent* event) {
+    QWidget::changeEvent(event);
+    if (event->type() == QEvent::PaletteChange)
+        colourHint();
 }
 
 // From the field the arrow key goes down into what it found.

@@ -36,9 +36,11 @@ Q_SIGNALS:
 
 protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
+    void changeEvent(QEvent* event) override;
 
 private:
     void build(const HelpTexts& texts);
+    void colourHint();
     void fillContents();
     void search(const QString& query);
     void chooseTopic(const QTreeWidgetItem* item);

@@ -86,6 +86,21 @@ TEST_F(HelpWindowTest, OpensAtTheTopicAskedFor) {
     EXPECT_FALSE(action("miForward").isEnabled());
 }
 
+TEST_F(HelpWindowTest, TheSearchFieldsHintIsReadableOnLightAndDark) {
+    const auto hintOn = [this](const QColor& text) {
+        QPalette colours;
+        colours.setColor(QPalette::Text, text);
+        colours.setColor(QPalette::PlaceholderText, Qt::black); // as a theme leaves it that names none
+        m_window.setPalette(colours);
+        return searchField().palette().color(QPalette::PlaceholderText);
+    };
+    for (const QColor& text : {QColor(Qt::white), QColor(Qt::black), QColor(Qt::yellow)}) {
+        const QColor hint = hintOn(text);
+        EXPECT_EQ(hint.rgb(), text.rgb());
+        EXPECT_LT(hint.alpha(), 255);
+    }
+}
+
 TEST_F(HelpWindowTest, ShowsTheContentsAsATree) {
     EXPECT_EQ(contents().topLevelItemCount(), 3);
     ASSERT_EQ(topic(QStringLiteral("The list"))->childCount(), 1);
