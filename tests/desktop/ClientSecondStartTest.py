@@ -17,6 +17,11 @@ class SecondStartScene(SceneTest):
         second = Client(self.desktop)
         self.assertEqual(second.process.wait(20), 0)
 
+    def wait_shown(self):
+        """A window that was just hidden may still be called the active one."""
+        self.desktop.wait_window(TITLE)
+        self.desktop.wait_active(TITLE)
+
 
 class SecondStartTest(SecondStartScene):
     def come_over_it(self):
@@ -27,7 +32,7 @@ class SecondStartTest(SecondStartScene):
     def test_shows_the_window_that_was_hidden(self):
         client = self.start({FIRST: 1})
         self.start_again()
-        self.desktop.wait_active(TITLE)
+        self.wait_shown()
         self.assertTrue(client.alive)
         self.assertEqual(len(self.desktop.tray.icons()), 1)
 
@@ -42,7 +47,7 @@ class SecondStartTest(SecondStartScene):
         self.desktop.key('Escape')
         self.desktop.wait_no_window(ABOUT_BOX)
         self.start_again()
-        self.desktop.wait_active(TITLE)
+        self.wait_shown()
 
     def test_brings_an_error_dialog_of_the_start_to_the_front(self):
         self.make_mailbox(FIRST, 3)
@@ -55,7 +60,7 @@ class SecondStartTest(SecondStartScene):
         self.desktop.wait_for(lambda: not client.ignore_errors() and not self.desktop.windows.find(ERROR_DIALOG),
                               'the start to be through with its reports')
         self.start_again()
-        self.desktop.wait_active(TITLE)
+        self.wait_shown()
         client.wait_rows(3)
 
 
@@ -72,7 +77,7 @@ class NoTrayTest(SecondStartScene):
         client.wait_rows(3)
         client.hide()
         self.start_again()
-        self.desktop.wait_active(TITLE)
+        self.wait_shown()
         self.assertNotIn('HIDDEN', client.window().states)
         client.wait_rows(3)
 

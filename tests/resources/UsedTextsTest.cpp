@@ -96,6 +96,15 @@ TEST(UsedTexts, EveryNumberInTheProgramsSourcesIsInTheTable) {
     EXPECT_THAT(findings.faults, ::testing::IsEmpty());
 }
 
+// The system's own ones are fixed, shown or not.
+TEST(UsedTexts, EveryTextOfOurOwnIsShownSomewhere) {
+    constexpr std::int32_t kFirstOfOurOwn = 5000;
+    const Table texts = englishTexts();
+    const std::set<std::int32_t> used = scanProgram(texts).used;
+    for (auto own = texts.lower_bound(kFirstOfOurOwn); own != texts.end(); ++own)
+        EXPECT_TRUE(used.contains(own->first)) << own->first << ' ' << own->second;
+}
+
 TEST(UsedTexts, AScanSeesMissingNumbersAndOtherTexts) {
     const Table texts{{7, "Close"}, {8, "two\nlines"}};
     Findings findings;

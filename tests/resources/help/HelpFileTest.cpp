@@ -138,7 +138,7 @@ TEST_P(HelpFileTest, QuotesTheTextsOfTheProgram) {
         {QStringLiteral("Delete"), {113, 114, 122, 3719, 3740}},
         {QStringLiteral("Options"), {112, 114, 122, 3682, 3684, 3712, 3733, 3754, 3756, 5110}},
         {QStringLiteral("Tray"), {121, 3683, 3684, 3715, 3738, 3745, 3760, 3770}},
-        {QStringLiteral("Server"), {3685}},
+        {QStringLiteral("Server"), {114, 122, 3685, 5053}},
         {QStringLiteral("Errors"), {110, 111, 112, 113, 114, 5002, 5003}},
         {QStringLiteral("Keys"), {3682}}};
     for (const auto& [name, ids] : quoted)
