@@ -5,6 +5,7 @@
 #include "platform/share/smb/LogOnRecord.h"
 #include "platform/share/smb/PacketReader.h"
 #include "tools/qmshare/FailedStage.h"
+#include "tools/qmshare/KerberosTicket.h"
 #include "tools/qmshare/Neighbourhood.h"
 #include "tools/qmshare/SmbUrl.h"
 
@@ -62,8 +63,10 @@ share::smb::Response Requests::logOn(const Request& request) {
     if (request.length == 0 || request.length > std::numeric_limits<std::uint16_t>::max())
         share::smb::PacketReader::fail("an impossible port");
     m_session.reset();
+    share::smb::Credentials credentials = share::smb::decodeLogOn(request.data);
+    const bool usesTicket = credentials.isAnybody() && hasKerberosTicket();
     m_session = std::make_unique<Session>(request.path, static_cast<std::uint16_t>(request.length),
-                                          share::smb::decodeLogOn(request.data));
+                                          std::move(credentials), usesTicket);
     return {};
 }
 
@@ -104,9 +107,9 @@ Requests::Operation Requests::operationFor(const Request& request) {
 }
 
 share::smb::Response Requests::connectAndRun(const share::UncPath& path, const Operation& operation) {
-    const std::string url = smbUrl(m_session->host, path);
+    const std::string url = smbUrl(m_session->host, path); // the same for everybody
     for (bool isRepeated = false;; isRepeated = true) {
-        if (Response failed = connect(path); failed.stage != Stage::None)
+        if (Response failed = connectAsWhoeverCan(path); failed.stage != Stage::None)
             return failed;
         Response response;
         errno = 0;
@@ -118,6 +121,20 @@ share::smb::Response Requests::connectAndRun(const share::UncPath& path, const O
             return {.stage = stage, .failure = failure};
         m_session->context.disconnect();
     }
+}
+
+// Whoever has a ticket that is of no use here is nobody in particular.
+share::smb::Response Requests::connectAsWhoeverCan(const share::UncPath& path) {
+    Response response = connect(path);
+    const SmbContext& context = m_session->context;
+    if (response.stage == Stage::None || isConnectionFailure(response.failure) || !context.usesTicket() ||
+        context.isConnectedAnywhere())
+        return response;
+    const std::string host = m_session->host;
+    const std::uint16_t port = m_session->port;
+    m_session.reset(); // the library knows one set of options at a time
+    m_session = std::make_unique<Session>(host, port, share::smb::Credentials{}, false);
+    return connect(path);
 }
 
 share::smb::Response Requests::connect(const share::UncPath& path) {

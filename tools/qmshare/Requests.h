@@ -29,11 +29,13 @@ private:
     using Operation = std::function<int(const std::string& url, Response& response)>;
 
     struct Session {
-        Session(std::string serverHost, std::uint16_t port, share::smb::Credentials credentials)
-            : host(std::move(serverHost)), context(port, std::move(credentials)), files(context),
-              folders(context) {}
+        Session(std::string serverHost, std::uint16_t serverPort, share::smb::Credentials credentials,
+                bool usesTicket)
+            : host(std::move(serverHost)), port(serverPort),
+              context(serverPort, std::move(credentials), usesTicket), files(context), folders(context) {}
 
         std::string host;
+        std::uint16_t port;
         SmbContext context;
         OpenFiles files;
         Folders folders;
@@ -45,6 +47,7 @@ private:
     Response onHandle(const Request& request);
     Operation operationFor(const Request& request);
     Response connect(const share::UncPath& path);
+    Response connectAsWhoeverCan(const share::UncPath& path);
     Response connectAndRun(const share::UncPath& path, const Operation& operation);
     int stat(const std::string& url, Response& response);
     int shares(Response& response);

@@ -35,8 +35,8 @@ void SmbContext::Free::operator()(SMBCCTX* context) const noexcept {
     ::smbc_free_context(context, 1);
 }
 
-SmbContext::SmbContext(std::uint16_t port, share::smb::Credentials credentials)
-    : m_credentials(std::move(credentials)), m_context(::smbc_new_context()) {
+SmbContext::SmbContext(std::uint16_t port, share::smb::Credentials credentials, bool usesTicket)
+    : m_credentials(std::move(credentials)), m_usesTicket(usesTicket), m_context(::smbc_new_context()) {
     if (!m_context)
         throw basic::RuntimeError(basic::kInternalError, "the SMB library has no context");
     setCallbacks();
@@ -53,7 +53,8 @@ void SmbContext::setOptions(std::uint16_t port) {
     ::smbc_setPort(get(), port);
     ::smbc_setTimeout(get(), kTimeoutMilliseconds);
     ::smbc_setOptionNoAutoAnonymousLogin(get(), 1); // a wrong password must not become a guest
-    ::smbc_setOptionUseKerberos(get(), 0);
+    ::smbc_setOptionUseKerberos(get(), m_usesTicket ? 1 : 0);
+    ::smbc_setOptionFallbackAfterKerberos(get(), 0); // to a user of that name with an empty password
     ::smbc_setOptionOpenShareMode(get(), SMBC_SHAREMODE_DENY_NONE);
 }
 
@@ -101,6 +102,8 @@ SmbContext& SmbContext::of(SMBCCTX* context) {
 void SmbContext::authenticate(SMBCCTX* context, const char* /*server*/, const char* /*share*/,
                               char* workgroup, int workgroupSize, char* user, int userSize, char* password,
                               int passwordSize) {
+    if (of(context).m_usesTicket)
+        return; // the ticket says who it is; any name but none will do
     const share::smb::Credentials& credentials = of(context).m_credentials;
     if (!credentials.domain.empty())
         put(credentials.domain, workgroup, workgroupSize);

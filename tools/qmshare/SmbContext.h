@@ -19,8 +19,9 @@ namespace qmshare {
 
 class SmbContext {
 public:
-    // Error 51 when the library cannot be set up.
-    SmbContext(std::uint16_t port, share::smb::Credentials credentials);
+    // With `usesTicket` the user's Kerberos ticket logs on, or nobody does. Error 51 when the library cannot
+    // be set up.
+    SmbContext(std::uint16_t port, share::smb::Credentials credentials, bool usesTicket);
     SmbContext(const SmbContext&) = delete;
     SmbContext& operator=(const SmbContext&) = delete;
 
@@ -28,6 +29,8 @@ public:
 
     // The library's own connection to a share, as far as it knows that it is alive.
     bool isConnected(const std::string& share) const;
+    bool usesTicket() const noexcept { return m_usesTicket; }
+    bool isConnectedAnywhere() const noexcept { return !m_connections.empty(); }
     // Gives connections up, so that the next call makes a new one.
     void disconnect();
 
@@ -53,6 +56,7 @@ private:
     void refuseToBeAGuest();
 
     share::smb::Credentials m_credentials;
+    const bool m_usesTicket;
     std::map<SMBCSRV*, std::string> m_connections; // share names
     smbc_add_cached_srv_fn m_add = nullptr;
     smbc_remove_cached_srv_fn m_remove = nullptr;
