@@ -6,7 +6,9 @@
 #include "platform/forms/Text.h"
 #include "resources/LocalText.h"
 
+#include <QApplication>
 #include <QScopeGuard>
+#include <QWindow>
 
 #include <utility>
 
@@ -15,6 +17,12 @@ namespace {
 
 using resources::localText;
 using share::smb::Credentials;
+
+// The window in front may go while the question is open, so it is no parent.
+void standOver(QWidget& dialog, const QWidget* front) {
+    dialog.winId(); // makes the window's handle
+    dialog.windowHandle()->setTransientParent(front != nullptr ? front->windowHandle() : nullptr);
+}
 
 } // namespace
 
@@ -81,6 +89,7 @@ std::optional<LogOns::Answer> askForCredentials(const std::string& server, const
                                .ok = localText(5000, "OK"),
                                .cancel = localText(5001, "Cancel")},
                               forms::toQString(last.user), forms::toQString(last.domain), remembering);
+    standOver(dialog, QApplication::activeWindow());
     if (dialog.exec() != QDialog::Accepted)
         return std::nullopt;
     std::string password = forms::fromQString(dialog.password());
