@@ -10,6 +10,7 @@ import unittest
 
 sys.dont_write_bytecode = True
 from client import Client  # noqa: E402
+from desktop import wait_until  # noqa: E402
 from options import Options  # noqa: E402
 from samba import PASSWORD  # noqa: E402
 from scene import FIRST, SECOND  # noqa: E402
@@ -114,7 +115,7 @@ class PictureTest(ServerScene):
         self.assertGreater(os.path.getsize(path), 1000)
 
     def test_english_or_german(self):
-        self.start_anew()
+        client = self.start_anew()
         self.keep('frmServer', self.wait_choice())
         self.desktop.key('Tab', 'space')
         self.keep('browser', self.desktop.wait_active(BROWSER))
@@ -122,6 +123,8 @@ class PictureTest(ServerScene):
         self.wait_choice()
         self.desktop.key('shift+Tab')
         self.choose_server(SERVER)
+        self.wait_question()
+        wait_until(lambda: self.desktop.objects(client.process, 'check box'), 'the dialog to be there')
         self.keep('LogOn', self.wait_question())
 
 

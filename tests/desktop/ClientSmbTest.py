@@ -53,6 +53,15 @@ class SmbTest(SmbScene):
         client.process.wait(20)
         self.assertEqual(client.process.popen.returncode, 0)
 
+    def test_a_kerberos_ticket_that_is_of_no_use_changes_nothing(self):
+        ticket = self.desktop.folder / 'ticket'
+        ticket.write_bytes(b'\x05\x04')
+        self.desktop.env['KRB5CCNAME'] = f'FILE:{ticket}'
+        client, calls = self.start_counting({FIRST: 12})
+        self.add_calls(FIRST, 3)
+        client.wait_popup(3)
+        client.wait_rows(calls + 3)
+
     def test_leaves_no_process_behind_when_it_is_killed(self):
         client = self.start({FIRST: 12})
         left = self.helper_of(client)

@@ -1,6 +1,7 @@
 # SPDX-FileCopyrightText: 2026 The qmClient authors
 # SPDX-License-Identifier: GPL-3.0-or-later
 """Samba's own smbd on 127.0.0.1 over a folder, as the server srv01 of a test; it runs as root does."""
+import contextlib
 import os
 import pathlib
 import signal
@@ -30,10 +31,10 @@ class Samba:
         """What the administrator writes in the place of a folder."""
         return f'smb://127.0.0.1:{self.port}'
 
-    def _configure(self):
+    def _configure(self, of_share=''):
         folders = {name: self.own / name for name in ('private', 'lock', 'state', 'cache', 'pid', 'ncalrpc')}
         for folder in folders.values():
-            folder.mkdir(parents=True)
+            folder.mkdir(parents=True, exist_ok=True)
         (self.own / 'users').write_text(f'root = {USER}\n')
         settings = {'server role': 'standalone server', 'interfaces': '127.0.0.1', 'bind interfaces only': 'yes',
                     'smb ports': self.port, 'private dir': folders['private'], 'lock directory': folders['lock'],
@@ -47,7 +48,7 @@ class Samba:
             settings['map to guest'] = 'Bad User'
         share = {'path': self.share, 'read only': 'no', 'guest ok': 'yes' if self.guests else 'no'}
         lines = ['[global]', *(f'{name} = {value}' for name, value in settings.items()), '[Quillamar_0$]',
-                 *(f'{name} = {value}' for name, value in share.items()), '']
+                 *(f'{name} = {value}' for name, value in share.items()), of_share, '']
         (self.own / 'smb.conf').write_text('\n'.join(lines))
 
     def set_password(self, password):
@@ -68,6 +69,28 @@ class Samba:
     def kill(self):
         self._signal(signal.SIGKILL)
         self.program.wait(10)
+
+    def restart_with(self, of_share):
+        """With another line for the share; the last of its kind counts."""
+        self.kill()
+        self._configure(of_share)
+        self.start()
+
+    def cut_connections(self):
+        """Without a word to the clients; new ones are taken."""
+        for pid in self._connections():
+            os.kill(pid, signal.SIGKILL)
+
+    def _connections(self):
+        found = []
+        for pid in map(int, filter(str.isdigit, os.listdir('/proc'))):
+            with contextlib.suppress(OSError):
+                if pid != self.program.pid and os.getpgid(pid) == self.program.pid:
+                    if pathlib.Path(f'/proc/{pid}/comm').read_text(encoding='ascii') == 'smbd\n':
+                        found.append(pid)
+        if not found:
+            raise DesktopError('nobody is connected')
+        return found
 
     def stop(self):
         """Connections are still taken by the kernel; nothing is answered."""

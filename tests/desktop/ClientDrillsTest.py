@@ -1,0 +1,138 @@
+# SPDX-FileCopyrightText: 2026 The qmClient authors
+# SPDX-License-Identifier: GPL-3.0-or-later
+"""The real client through what happens to servers and shares. Each drill ends with right counts and no report."""
+import contextlib
+import os
+import re
+import sys
+import time
+import unittest
+
+sys.dont_write_bytecode = True
+from client import OPEN, Client  # noqa: E402
+from desktop import wait_until  # noqa: E402
+from samba import PASSWORD  # noqa: E402
+from scene import FIRST  # noqa: E402
+from site_folder import mailbox_folder  # noqa: E402
+from smb_scene import SmbScene, helpers, status_of  # noqa: E402
+
+LOG = 'qmClient.log'
+NOT_CONNECTED = 'A connection to the server could not be established.'
+
+
+class DrillScene(SmbScene):
+    def setUp(self):
+        super().setUp()
+        self.write_credentials(PASSWORD)
+
+    def counts_on(self, client, calls):
+        """Three more calls are announced, and the list has them all."""
+        self.add_calls(FIRST, 3)
+        client.wait_popup(seconds=90)
+        client.wait_rows(calls + 3, seconds=90)
+        self.reports_nothing()
+
+    def wait_asked(self, requests=8):
+        """Until the server was asked so much as a few polls do."""
+        helper = helpers()[0]
+
+        def waits():
+            return int(status_of(helper, 'voluntary_ctxt_switches'))
+        before = waits()
+        wait_until(lambda: waits() >= before + requests, 'the client to ask', 30)
+
+    def reports_nothing(self):
+        found = [str(path) for path in self.desktop.folder.rglob(LOG)]
+        self.assertEqual(found, [], [open(path, encoding='utf-8').read() for path in found])
+
+
+class ServerDrillTest(DrillScene):
+    def test_killed_and_restarted_while_the_list_is_read(self):
+        self.make_mailbox(FIRST, 20000)
+        self.write_settings((FIRST,))
+        client = Client(self.desktop)
+        wait_until(lambda: self.samba.log_ons('NT_STATUS_OK') > 0, 'the client to log on', 60)
+        self.samba.kill()
+        self.samba.start()
+        client.open()
+        client.wait_rows(20000, seconds=90)
+        client.hide()
+        self.counts_on_after_learning(client, 20000)
+
+    def counts_on_after_learning(self, client, calls):
+        """What comes before the first poll is over is not announced."""
+        added = 0
+
+        def announced():
+            nonlocal added
+            self.add_calls(FIRST, 1)
+            added += 1
+            with contextlib.suppress(Exception):
+                return client.wait_popup(seconds=5)
+        wait_until(announced, 'the popup', 90)
+        client.wait_rows(calls + added, seconds=60)
+        self.reports_nothing()
+
+    def test_killed_and_restarted_between_polls_over_and_over(self):
+        client, calls = self.start_counting({FIRST: 12})
+        for _ in range(4):
+            self.samba.kill()
+            self.add_calls(FIRST, 1)
+            self.samba.start()
+        client.wait_rows(calls + 4, seconds=90)
+        self.assertEqual(int(re.search('[0-9]+', client.wait_popup())[0]), 4)
+        self.reports_nothing()
+
+    def test_connections_are_cut(self):
+        client, calls = self.start_counting({FIRST: 12})
+        self.samba.cut_connections()
+        self.counts_on(client, calls)
+
+    def test_stopped_for_half_a_minute_in_which_the_window_answers(self):
+        client, calls = self.start_counting({FIRST: 12})
+        self.samba.stop()
+        end = time.monotonic() + 30
+        client.open()
+        while time.monotonic() < end:
+            self.assertEqual(client.row_count(), calls)
+        client.hide()
+        self.samba.go_on()
+        self.counts_on(client, calls)
+
+
+class ShareDrillTest(DrillScene):
+    def test_made_read_only(self):
+        client, calls = self.start_counting({FIRST: 12})
+        self.samba.restart_with('read only = yes')
+        self.counts_on(client, calls)
+
+    def test_permission_taken_away_and_given_back(self):
+        client, calls = self.start_counting({FIRST: 12})
+        self.samba.restart_with('invalid users = root')
+        self.wait_question()
+        self.desktop.key('Escape')
+        self.samba.restart_with('')
+        self.counts_on(client, calls)
+
+    def test_folder_renamed_and_named_back(self):
+        client, calls = self.start_counting({FIRST: 12})
+        folder = mailbox_folder(self.share, FIRST)
+        away = folder.with_name('away')
+        os.rename(folder, away)
+        self.wait_asked()
+        os.rename(away, folder)
+        self.counts_on(client, calls)
+
+    def test_share_without_its_folder_of_mailboxes_at_the_start(self):
+        os.rename(self.share / 'MBX', self.share / 'away')
+        self.write_settings((FIRST,))
+        client = Client(self.desktop)
+        client.choose(OPEN)
+        os.rename(self.share / 'away', self.share / 'MBX')
+        self.make_mailbox(FIRST, 12)
+        client.wait_rows(12, seconds=60)
+        self.reports_nothing()
+
+
+if __name__ == '__main__':
+    unittest.main(verbosity=2)
