@@ -4,6 +4,7 @@
 
 namespace app {
 
+// No trap (AskingFiles, FolderExists): its failures are those of the search that calls it.
 bool AskingFiles::FolderExists(std::string_view path) {
     for (;;) {
         const int answers = m_desk->answers(m_server);
