@@ -22,6 +22,7 @@ class SceneTest(unittest.TestCase):
     size = '1024x768'
     tray = 'trayer'
     accessibility = True
+    tray = 'trayer'
 
     def setUp(self):
         stack = contextlib.ExitStack()
