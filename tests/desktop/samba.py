@@ -16,8 +16,8 @@ USER, PASSWORD = 'mbxuser', 'secret'
 class Samba:
     """The share Quillamar_0$ is `share`; everything else lies in `own`. Guests are welcome unless told otherwise."""
 
-    def __init__(self, desktop, share, guests=True):
-        self.desktop, self.share, self.guests = desktop, share, guests
+    def __init__(self, desktop, share, guests=True, settings=None):
+        self.desktop, self.share, self.guests, self.settings = desktop, share, guests, settings or {}
         self.own = desktop.folder / 'samba'
         with socket.socket() as probe:
             probe.bind(('127.0.0.1', 0))
@@ -35,7 +35,7 @@ class Samba:
         folders = {name: self.own / name for name in ('private', 'lock', 'state', 'cache', 'pid', 'ncalrpc')}
         for folder in folders.values():
             folder.mkdir(parents=True, exist_ok=True)
-        (self.own / 'users').write_text(f'root = {USER}\n')
+        (self.own / 'users').write_text(f'root = {USER} {USER}@QMTEST.EXAMPLE QMTEST\\{USER} QMTEST.EXAMPLE\\{USER}\n')
         settings = {'server role': 'standalone server', 'interfaces': '127.0.0.1', 'bind interfaces only': 'yes',
                     'smb ports': self.port, 'private dir': folders['private'], 'lock directory': folders['lock'],
                     'state directory': folders['state'], 'cache directory': folders['cache'],
@@ -46,6 +46,7 @@ class Samba:
                     'guest account': 'root'}
         if self.guests:
             settings['map to guest'] = 'Bad User'
+        settings |= self.settings
         share = {'path': self.share, 'read only': 'no', 'guest ok': 'yes' if self.guests else 'no'}
         lines = ['[global]', *(f'{name} = {value}' for name, value in settings.items()), '[Quillamar_0$]',
                  *(f'{name} = {value}' for name, value in share.items()), of_share, '']
