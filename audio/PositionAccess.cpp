@@ -6,6 +6,8 @@
 #include "platform/forms/Text.h"
 #include "resources/StringTable.h"
 
+#include <cmath>
+
 namespace audio {
 namespace {
 
@@ -52,7 +54,8 @@ QString PositionAccess::spokenPosition() const {
     if (!m_control.isActive())
         return {};
     return forms::toQString(resources::LoadLocalString(5017, "%1 of %2"))
-        .arg(minutesAndSeconds(m_control.positionSeconds()), minutesAndSeconds(m_control.lengthSeconds()));
+        .arg(minutesAndSeconds(m_control.positionSeconds()),
+             minutesAndSeconds(std::round(m_control.lengthSeconds()))); // worked out from a rounded fraction
 }
 
 void* PositionAccess::interface_cast(QAccessible::InterfaceType type) {

@@ -29,7 +29,7 @@ public:
     void SelectClipRgn(const std::optional<QRect>& region) override {
         called(region ? "clip " + text(*region) : "no clip");
     }
-    void paintOnto(QPainter&) const override {}
+    void paintOnto(QPainter&) const override { ++paints; }
 
     // Left, top, right and bottom, the latter two being outside.
     static std::string text(const QRect& r) {
@@ -41,6 +41,7 @@ public:
     basic::Twips height;
     std::string fails; // the beginning of the calls that fail
     std::vector<std::string> log;
+    mutable int paints = 0;
 
 private:
     void called(const std::string& call) {

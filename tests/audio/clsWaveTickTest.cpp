@@ -76,6 +76,14 @@ TEST_F(WaveTest, TickAfterTheEndDoesNothing) {
     EXPECT_THAT(progress, IsEmpty());
 }
 
+TEST_F(WaveTest, TickOfAGraphThatNoPlayStartedTellsNothing) {
+    play();
+    wave->SetIsPlaying(false);
+    tick();
+    EXPECT_THAT(sound.takeLog(), ElementsAre("CurrentPosition"));
+    EXPECT_THAT(progress, IsEmpty());
+}
+
 TEST_F(WaveTest, FileWithoutALengthIsAtItsBeginning) {
     play();
     sound.duration = 0;

@@ -116,6 +116,14 @@ TEST_F(PlayerTest, PlayerThatGoesLetsItsEngineGo) {
     EXPECT_TRUE(wave.expired());
 }
 
+TEST_F(PlayerTest, EngineThatSomebodyKeepsIsStoppedWhenThePlayerEnds) {
+    play();
+    const auto kept = wave.lock();
+    player->UnInit();
+    EXPECT_FALSE(kept->HasFile());
+    EXPECT_EQ(kept->Timer1().Interval(), 0);
+}
+
 TEST_F(PlayerTest, RefreshAndHandleAreThere) {
     player->Refresh();
     EXPECT_NE(player->hWnd(), 0U);

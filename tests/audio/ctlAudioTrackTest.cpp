@@ -123,6 +123,19 @@ TEST_F(PlayerTest, IsASliderWithANameAndAValueToAssistivePrograms) {
     sound.takeLog();
     slider->valueInterface()->setCurrentValue(50);
     EXPECT_EQ(lastMove(), "CurrentPosition = 24");
+    sound.position = 5; // a fraction that is rounded
+    tick();
+    EXPECT_EQ(slider->text(QAccessible::Value), QStringLiteral("0:05 of 0:48"));
+    player->StopPlay();
+    EXPECT_EQ(slider->text(QAccessible::Value), QString());
+    EXPECT_EQ(slider->valueInterface()->currentValue().toDouble(), 0);
+}
+
+TEST_F(PlayerTest, IsDrawnAnewInTheColoursOfAnotherPalette) {
+    useRecordedSurface();
+    surface->log.clear();
+    player->setPalette(QPalette(Qt::black));
+    EXPECT_THAT(surface->log, testing::Contains("Cls"));
 }
 
 TEST_F(PlayerTest, DrawsTheTracksEdgeOnlyWhileThereIsAPosition) {

@@ -50,6 +50,18 @@ TEST_F(ButtonTest, PictureFillsItAfterEachResize) {
     EXPECT_EQ(real.picTop().objectName(), QStringLiteral("picTop"));
 }
 
+TEST_F(ButtonTest, IsDrawnAnewInTheColoursOfAnotherPalette) {
+    make(600, 300);
+    surface->log.clear();
+    button->setPalette(QPalette(Qt::black));
+    EXPECT_THAT(surface->log, testing::Contains("Cls"));
+}
+
+TEST_F(ButtonTest, ShowsWhatItDraws) {
+    make(600, 300).grab();
+    EXPECT_GT(surface->paints, 0);
+}
+
 TEST_F(ButtonTest, ReportsUnderTwoModuleNames) {
     make(600, 300);
     for (const char* call : {"Cls", "DrawEdge", "clip"}) {

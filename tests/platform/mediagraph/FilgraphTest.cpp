@@ -27,6 +27,10 @@ std::vector<std::string> openFiles() {
     return names;
 }
 
+std::ptrdiff_t threadCount() {
+    return std::distance(std::filesystem::directory_iterator("/proc/self/task"), {});
+}
+
 TEST(BuildingAGraph, OffersTheFileSourceAndARendererForEachDevice) {
     SoundWorld world;
     const auto graph = world.sound().graphs().newFilgraphManager();
@@ -66,6 +70,9 @@ TEST(BuildingAGraph, StartsGStreamerWithTheFirstRunOnly) {
     SoundWorld world;
     const auto graph = world.connected(world.makeMessage(0.1));
     world.sound().waveOut().waveOutGetNumDevs();
+    const auto threads = threadCount();
+    graph->Stop();
+    EXPECT_EQ(threadCount(), threads);
     EXPECT_FALSE(gst_is_initialized());
     graph->Run();
     EXPECT_EQ(endOf(*graph), EventCode::Complete);
@@ -109,6 +116,18 @@ TEST(BuildingAGraph, RefusesConnectionsThatMakeNoSense) {
     const auto other = world.sound().graphs().newFilgraphManager();
     const auto foreign = registered(*other, "First")->Filter()->Pins().Item(0);
     EXPECT_EQ(errorOf([&] { source->Connect(*foreign); }), basic::kMediaCannotConnect);
+}
+
+TEST(BuildingAGraph, IsRefusedWhileTheGraphRuns) {
+    SoundWorld world;
+    world.makeMessage(0.1);
+    const auto graph = world.sound().graphs().newFilgraphManager();
+    const auto source = registered(*graph, kFileSourceName)->Filter();
+    source->SetFilename(SoundWorld::nameOf("pcm16.wav"));
+    const auto renderer = registered(*graph, "First")->Filter();
+    graph->Run();
+    EXPECT_EQ(errorOf([&] { source->Pins().Item(0)->Connect(*renderer->Pins().Item(0)); }),
+              basic::kMediaWrongState);
 }
 
 TEST(BuildingAGraph, OutlivedByItsFiltersLeavesThemWithoutAGraph) {

@@ -10,6 +10,7 @@
 #include <gtest/gtest.h>
 
 #include <condition_variable>
+#include <filesystem>
 #include <mutex>
 #include <thread>
 
@@ -75,6 +76,13 @@ TEST(MessageReader, TakesWhatIsThereOfAFileThatBecameShorter) {
     EXPECT_EQ(world.plan.reads, 2);
 }
 
+TEST(MessageReader, RefusesAFileBeyondItsLimit) {
+    ReadingWorld world;
+    world.folder.makeFile("message.wav", "");
+    std::filesystem::resize_file(world.folder.path("message.wav"), MessageReader::kMaximumSize + 1);
+    EXPECT_EQ(errorOf([&] { world.reader().read(kMessage); }), basic::kOutOfMemory);
+}
+
 TEST(MessageReader, NamesAFileThatIsNotThere) {
     ReadingWorld world;
     EXPECT_EQ(errorOf([&] { world.reader().read(kMessage); }), basic::kFileNotFound);
@@ -85,6 +93,7 @@ struct Gate {
     std::mutex mutex;
     std::condition_variable changed;
     bool isOpen = false;
+    int reads = 0;
     int left = 0;
 
     void open() {
@@ -94,6 +103,7 @@ struct Gate {
     }
     void pass() {
         std::unique_lock lock(mutex);
+        ++reads;
         changed.wait(lock, [this] { return isOpen; });
     }
     void leave() {
@@ -112,7 +122,7 @@ public:
     explicit GatedFile(std::shared_ptr<Gate> gate) : m_gate(std::move(gate)) {}
     ~GatedFile() override { m_gate->leave(); }
     const std::string& name() const override { return m_name; }
-    std::uint64_t size() override { return 4; }
+    std::uint64_t size() override { return 1'000'000; } // several pieces
     std::size_t read(std::uint64_t, std::span<std::byte> into) override {
         m_gate->pass();
         return into.size();
@@ -155,6 +165,7 @@ TEST(MessageReader, GivesUpOnAServerThatStopsAnswering) {
     EXPECT_GT(waiting.passes, 0);
     gate->open();
     gate->awaitLeaving(); // the thread that was left behind closes its file
+    EXPECT_EQ(gate->reads, 1) << "read on for nobody";
 }
 
 // Lets the window live: the gate opens only because waiting does something meanwhile.
@@ -191,7 +202,7 @@ TEST(MessageReader, LetsTheCallerLiveOnWhileItReads) {
     const auto gate = std::make_shared<Gate>();
     OpeningWait waiting(gate);
     auto reader = gatedReader(gate, waiting, kPatient);
-    EXPECT_EQ(reader.read("m.wav").size(), 4U);
+    EXPECT_EQ(reader.read("m.wav").size(), 1'000'000U);
 }
 
 } // namespace
