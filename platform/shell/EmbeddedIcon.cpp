@@ -8,6 +8,7 @@
 #include <QCursor>
 #include <QMenu>
 #include <QMouseEvent>
+#include <QWindow>
 
 #include <algorithm>
 #include <limits>
@@ -71,10 +72,19 @@ bool EmbeddedIcon::eventFilter(QObject* watched, QEvent* event) {
     const auto type = event->type();
     if (type == QEvent::MouseMove)
         m_listener(kMouseMove);
+    else if (type == QEvent::WindowBlocked)
+        joinModalWindow();
     else if (type == QEvent::MouseButtonPress || type == QEvent::MouseButtonRelease ||
              type == QEvent::MouseButtonDblClick)
         buttonUsed(type, static_cast<const QMouseEvent*>(event)->button());
     return QObject::eventFilter(watched, event);
+}
+
+// A modal dialog takes the mouse from all windows but its own ones. The icon's menu ends the program also
+// while an error is told, so the icon counts as one of these.
+void EmbeddedIcon::joinModalWindow() {
+    if (m_window && m_window->windowHandle())
+        m_window->windowHandle()->setTransientParent(QGuiApplication::modalWindow());
 }
 
 void EmbeddedIcon::buttonUsed(QEvent::Type type, Qt::MouseButton button) {

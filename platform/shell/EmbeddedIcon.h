@@ -35,6 +35,7 @@ private:
     void activated(QSystemTrayIcon::ActivationReason reason);
 
     void watchWindow(QWidget& window);
+    void joinModalWindow();
     void buttonUsed(QEvent::Type type, Qt::MouseButton button);
 
     Listener m_listener;

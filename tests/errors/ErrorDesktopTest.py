@@ -15,7 +15,7 @@ import urllib.parse
 
 sys.dont_write_bytecode = True
 from error_scene import RECORD, ErrorTest, with_damaged_definition  # noqa: E402
-from client import Client  # noqa: E402
+from client import CLOSE, Client  # noqa: E402
 from desktop import wait_until  # noqa: E402
 from scene import FIRST, SECOND  # noqa: E402
 from site_folder import program  # noqa: E402
@@ -78,6 +78,11 @@ class PollTest(ErrorTest):
         """What the dialog's fields of one line hold."""
         return [self.desktop.reader().ask('text', where=field['where'])
                 for field in self.desktop.objects(self.client.process, 'text')]
+
+    def test_close_in_the_icons_menu_ends_the_program_while_the_dialog_is_up(self):
+        self.break_first_poll()
+        self.client.choose(CLOSE)
+        self.assertEqual(self.client.process.wait(5), 0)
 
     def test_a_failure_can_be_read_in_the_log_while_its_dialog_is_up(self):
         self.break_client()
