@@ -187,6 +187,16 @@ TEST_F(PollAheadTest, FindsAServerThatComesUpLater) {
     EXPECT_EQ(popup(), nullptr);
 }
 
+TEST_F(PollAheadTest, BuildsNothingAnewWhileTheServersShareIsMissing) {
+    configure({12});
+    mailbox(12).append(12);
+    std::filesystem::rename(folder.path("share"), folder.path("away"));
+    loadAndLearn();
+    const std::uint32_t generation = window->state().generation;
+    tickAndFinish();
+    EXPECT_EQ(window->state().generation, generation);
+}
+
 TEST_F(PollAheadTest, IsNotUsedForAFolderOfThisMachine) {
     CountsAhead counts(
         m_servers,
