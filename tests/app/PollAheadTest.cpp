@@ -115,6 +115,32 @@ TEST_F(PollAheadTest, AnswersThatComeInsideOfAWaitAreLeftForAfterIt) {
     EXPECT_EQ(popupText(), "You have  3  new calls");
 }
 
+TEST_F(PollAheadTest, PassesOverADatabaseThatSomebodyElseHasToHimselfAndCountsItAfterwards) {
+    configure({12});
+    mailbox(12).append(12);
+    loadAndLearn();
+    share::smb::SmbServers others{{.program = share::smb::helperProgram(),
+                                   .spread = [] { return 0.0; },
+                                   .credentials =
+                                       [](const std::string&) {
+                                           return share::smb::Credentials::of(
+                                               share::testing::SambaServer::kUser, "secret");
+                                       }},
+                                  [this](std::string_view) {
+                                      return share::smb::ServerAddress{"127.0.0.1", m_samba.port()};
+                                  }};
+    share::smb::ThreadWaiter waiter;
+    share::smb::SmbFileSystemObject theirs{others, waiter};
+    auto held = theirs.openFile("\\\\srv01\\Quillamar_0$\\MBX\\12\\qmLog.mdb", share::OpenMode::Exclusive);
+    mailbox(12).append(3);
+    tickAndFinish();
+    EXPECT_EQ(popup(), nullptr);
+    held.reset();
+    tickAndFinish();
+    EXPECT_EQ(popupText(), "You have  3  new calls");
+    EXPECT_TRUE(errorHandler.reports.empty());
+}
+
 TEST_F(PollAheadTest, SkipsAMailboxThatIsMissingWithoutAWord) {
     configure({12, 15});
     mailbox(15).append(1);
