@@ -86,13 +86,6 @@ class StartTest(SceneTest):
         self.assertEqual(client.process.wait(5), 0)
         self.desktop.wait_for(lambda: not self.desktop.tray.icons(), 'the icon to go')
 
-    def test_a_second_start_brings_the_first_to_the_front(self):
-        client = self.start({FIRST: 1})
-        second = Client(self.desktop)
-        self.assertEqual(second.process.wait(10), 0)
-        self.desktop.wait_window('Quillamar Calls', pid=client.process.pid)
-        self.assertEqual(len(self.desktop.tray.icons()), 1)
-
     def test_ends_when_the_session_asks_it_to(self):
         client = self.start({FIRST: 1})
         client.open()
