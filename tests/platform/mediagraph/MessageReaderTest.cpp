@@ -168,6 +168,49 @@ TEST(MessageReader, GivesUpOnAServerThatStopsAnswering) {
     EXPECT_EQ(gate->reads, 1) << "read on for nobody";
 }
 
+TEST(MessageReader, GivesUpWhenItTakesTooLongAltogether) {
+    const auto gate = std::make_shared<Gate>();
+    CountingWait waiting;
+    auto reader = gatedReader(gate, waiting, {std::chrono::hours{1}, milliseconds{50}});
+    EXPECT_EQ(errorOf([&] { reader.read("m.wav"); }), basic::kDeviceIoError);
+    gate->open();
+    gate->awaitLeaving();
+}
+
+// Has less than it said when it was opened.
+class ShrunkFiles final : public share::FileSystemObject {
+    class ShrunkFile final : public share::File {
+    public:
+        const std::string& name() const override { return m_name; }
+        std::uint64_t size() override { return 1000; }
+        std::size_t read(std::uint64_t offset, std::span<std::byte>) override {
+            return offset == 0 ? 600 : 0;
+        }
+        void write(std::uint64_t, std::span<const std::byte>) override {}
+        void sync() override {}
+        bool lock(std::uint64_t, std::uint64_t, share::LockKind) override { return true; }
+        void unlock(std::uint64_t, std::uint64_t) override {}
+
+    private:
+        std::string m_name = "shrunk";
+    };
+
+public:
+    bool FileExists(std::string_view) override { return true; }
+    bool FolderExists(std::string_view) override { return true; }
+    std::vector<std::string> SubFolders(std::string_view) override { return {}; }
+    void DeleteFile(std::string_view, bool) override {}
+    std::unique_ptr<share::File> openFile(std::string_view, share::OpenMode) override {
+        return std::make_unique<ShrunkFile>();
+    }
+};
+
+TEST(MessageReader, AnswersNoMoreThanThereWasToRead) {
+    CountingWait waiting;
+    MessageReader reader([] { return std::make_unique<ShrunkFiles>(); }, waiting, kPatient);
+    EXPECT_EQ(reader.read("m.wav").size(), 600U);
+}
+
 // Lets the window live: the gate opens only because waiting does something meanwhile.
 class OpeningWait final : public Waiting {
 public:

@@ -70,6 +70,39 @@ TEST_F(PlaybackDesk, IsAtTheEndWhenTheEndWasHeard) {
     EXPECT_EQ(desk.waitForCompletion(milliseconds{0}), EventCode::Complete);
 }
 
+TEST_F(PlaybackDesk, DropsWhatIsToldOfAnOrderThatHasEnded) {
+    const auto newest = playing();
+    desk.ended(newest, EventCode::Complete);
+    desk.moved(newest, 3);
+    desk.ended(newest, EventCode::UserAbort);
+    desk.failed(newest, basic::RuntimeError(basic::kMediaNoHardware));
+    EXPECT_EQ(desk.position(), 10);
+    EXPECT_EQ(desk.waitForCompletion(milliseconds{0}), EventCode::Complete);
+}
+
+TEST_F(PlaybackDesk, DropsTheFailureOfAnOrderThatIsNotTheNewest) {
+    const auto before = playing();
+    desk.seek(7);
+    desk.failed(before, basic::RuntimeError(basic::kMediaNoHardware));
+    EXPECT_EQ(errorOf([&] { desk.position(); }), 0);
+    EXPECT_EQ(order().state, PlayState::Playing);
+}
+
+TEST_F(PlaybackDesk, NumbersEachPlaceItIsSentTo) {
+    const auto before = playing();
+    desk.want(PlayState::Paused);
+    EXPECT_EQ(order().seekNumber, before.seekNumber);
+    desk.seek(before.position);
+    EXPECT_EQ(order().seekNumber, before.seekNumber + 1);
+    EXPECT_GT(order().number, before.number);
+}
+
+TEST_F(PlaybackDesk, SaysThatASoundDidNotStart) {
+    desk.want(PlayState::Playing);
+    now += std::chrono::seconds{6};
+    EXPECT_EQ(errorTextOf([&] { desk.position(); }), "The sound did not start within five seconds.");
+}
+
 TEST_F(PlaybackDesk, ForgetsTheEndWhenItIsStoppedOrSentElsewhere) {
     desk.ended(playing(), EventCode::Complete);
     desk.seek(0);
