@@ -118,6 +118,30 @@ TEST(BuildingAGraph, RefusesConnectionsThatMakeNoSense) {
     EXPECT_EQ(errorOf([&] { source->Connect(*foreign); }), basic::kMediaCannotConnect);
 }
 
+TEST(BuildingAGraph, RefusesTheRendererOfAnotherGraph) {
+    SoundWorld world;
+    world.makeMessage(0.1);
+    const auto graph = world.sound().graphs().newFilgraphManager();
+    const auto other = world.sound().graphs().newFilgraphManager();
+    const auto source = registered(*graph, kFileSourceName)->Filter();
+    source->SetFilename(SoundWorld::nameOf("pcm16.wav"));
+    const auto renderer = registered(*other, "First")->Filter();
+    EXPECT_EQ(errorOf([&] { source->Pins().Item(0)->Connect(*renderer->Pins().Item(0)); }),
+              basic::kMediaCannotConnect);
+}
+
+TEST(BuildingAGraph, ForgetsTheFileBeforeOneThatCannotBeRead) {
+    SoundWorld world;
+    world.makeMessage(0.1);
+    const auto graph = world.sound().graphs().newFilgraphManager();
+    const auto source = registered(*graph, kFileSourceName)->Filter();
+    source->SetFilename(SoundWorld::nameOf("pcm16.wav"));
+    EXPECT_EQ(errorOf([&] { source->SetFilename(SoundWorld::nameOf("none.wav")); }), basic::kFileNotFound);
+    const auto renderer = registered(*graph, "First")->Filter();
+    EXPECT_EQ(errorOf([&] { source->Pins().Item(0)->Connect(*renderer->Pins().Item(0)); }),
+              basic::kMediaCannotConnect);
+}
+
 TEST(BuildingAGraph, IsRefusedWhileTheGraphRuns) {
     SoundWorld world;
     world.makeMessage(0.1);
