@@ -158,10 +158,12 @@ def rows(times, server, peers, counts, peer_counts):
     """[(measure, ours, peer, goal)]; no peer where nobody does the same."""
     first, one, many, listed = times
     get_once, get, get_list = peers
-    one_counts, many_counts, list_counts = counts[1], counts[2], counts[3]
+    first_counts, one_counts, many_counts, list_counts = counts
     return [
         (f'smb: first poll, {CALLS} calls, beside smbclient get (both with log-on): time in ms', first, get_once,
          'ratio <= 1'),
+        ('smb: first poll with its log-on: requests', first_counts[0], None, '-'),
+        ('smb: first poll with its log-on: bytes both ways', first_counts[1], None, '-'),
         (f'smb: poll, {CALLS} calls, beside a further get of the file: time in ms', one, get, 'ratio <= 1'),
         (f'smb: poll, {CALLS} calls, beside a further get: requests', one_counts[0], peer_counts[0], '-'),
         (f'smb: poll, {CALLS} calls, beside a further get: bytes both ways', one_counts[1], peer_counts[1],
