@@ -5,7 +5,7 @@
 #   qm_desktop_program_test(TARGET [ARGS …] [SECONDS n])    a test program under with_desktop.py ARGS
 #
 # Both are labelled "gui"; desktops are private, so such tests run side by side. A script finds the programs
-# of the build in the environment variable QM_BIN.
+# of the build in the environment variable QM_BIN; it ends with 77 where the machine lacks what it needs.
 
 set(QM_DESKTOP_FOLDER ${CMAKE_SOURCE_DIR}/tests/desktop)
 # The system's interpreter: python3-gi belongs to it.
@@ -18,7 +18,7 @@ function(qm_desktop_test name script)
   endif()
   add_test(NAME desktop.${name} COMMAND ${QM_PYTHON} ${CMAKE_CURRENT_SOURCE_DIR}/${script})
   set_tests_properties(desktop.${name} PROPERTIES
-    LABELS "gui;${arg_LABELS}" TIMEOUT ${arg_SECONDS} ENVIRONMENT "QM_BIN=${CMAKE_BINARY_DIR}/bin")
+    LABELS "gui;${arg_LABELS}" TIMEOUT ${arg_SECONDS} SKIP_RETURN_CODE 77 ENVIRONMENT "QM_BIN=${CMAKE_BINARY_DIR}/bin")
 endfunction()
 
 function(qm_desktop_program_test target)
