@@ -4,6 +4,12 @@
 
 The server is reached by SMB, messages are heard on a sound server. Every station is photographed: its pictures
 are left in pictures/journey/ beside the programs' folder, in the order of the stations.
+
+The same journey with address and undefined-behaviour sanitizers; leaks make the client's end fail:
+
+    cmake --preset asan -B build/asan-windows -DQM_WINDOWS=ON -DQM_TESTS=OFF
+    cmake --build build/asan-windows --target qmClient qmshare qmdemo qmjet
+    QM_BIN=$PWD/build/asan-windows/bin python3 -B tests/desktop/ClientJourneyTest.py
 """
 import sys
 import unittest
