@@ -90,6 +90,7 @@ TEST(MailMessage, ANameThatWouldNeedQuotesArrives) {
         const std::string from = received(messageOf({kTo, "r", ""}, {name, "a@b"})).header("From");
         EXPECT_EQ(decodedHeader(from.substr(0, from.find(" <a@b>"))), name);
         EXPECT_TRUE(from.ends_with(" <a@b>")) << from;
+        EXPECT_EQ(from.substr(0, from.find(" <a@b>")).find_first_of("\",<>@\\"), std::string::npos) << from;
     }
 }
 
