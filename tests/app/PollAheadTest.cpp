@@ -32,17 +32,22 @@ protected:
         finishPoll();
     }
 
+    // A client's own connections to the server.
+    share::smb::SmbServers connections() {
+        using share::testing::SambaServer;
+        return {{.program = share::smb::helperProgram(),
+                 .spread = [] { return 0.0; },
+                 .credentials =
+                     [](const std::string&) {
+                         return share::smb::Credentials::of(SambaServer::kUser, "secret");
+                     }},
+                [this](std::string_view) {
+                    return share::smb::ServerAddress{"127.0.0.1", m_samba.port()};
+                }};
+    }
+
     share::testing::SambaServer m_samba{{.folder = folder.makeFolder("share")}};
-    share::smb::SmbServers m_servers{{.program = share::smb::helperProgram(),
-                                      .spread = [] { return 0.0; },
-                                      .credentials =
-                                          [](const std::string&) {
-                                              return share::smb::Credentials::of(
-                                                  share::testing::SambaServer::kUser, "secret");
-                                          }},
-                                     [this](std::string_view) {
-                                         return share::smb::ServerAddress{"127.0.0.1", m_samba.port()};
-                                     }};
+    share::smb::SmbServers m_servers = connections();
     CountsAhead m_counts{m_servers, share::ShareResolver(nullptr, nullptr)};
 };
 
@@ -119,16 +124,7 @@ TEST_F(PollAheadTest, PassesOverADatabaseThatSomebodyElseHasToHimselfAndCountsIt
     configure({12});
     mailbox(12).append(12);
     loadAndLearn();
-    share::smb::SmbServers others{{.program = share::smb::helperProgram(),
-                                   .spread = [] { return 0.0; },
-                                   .credentials =
-                                       [](const std::string&) {
-                                           return share::smb::Credentials::of(
-                                               share::testing::SambaServer::kUser, "secret");
-                                       }},
-                                  [this](std::string_view) {
-                                      return share::smb::ServerAddress{"127.0.0.1", m_samba.port()};
-                                  }};
+    share::smb::SmbServers others = connections();
     share::smb::ThreadWaiter waiter;
     share::smb::SmbFileSystemObject theirs{others, waiter};
     auto held = theirs.openFile("\\\\srv01\\Quillamar_0$\\MBX\\12\\qmLog.mdb", share::OpenMode::Exclusive);

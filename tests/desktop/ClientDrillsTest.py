@@ -1,7 +1,6 @@
 # SPDX-FileCopyrightText: 2026 The qmClient authors
 # SPDX-License-Identifier: GPL-3.0-or-later
 """The real client through what happens to servers and shares. Each drill ends with right counts and no report."""
-import contextlib
 import os
 import re
 import sys
@@ -57,20 +56,8 @@ class ServerDrillTest(DrillScene):
         client.open()
         client.wait_rows(20000, seconds=90)
         client.hide()
-        self.counts_on_after_learning(client, 20000)
-
-    def counts_on_after_learning(self, client, calls):
-        """What comes before the first poll is over is not announced."""
-        added = 0
-
-        def announced():
-            nonlocal added
-            self.add_calls(FIRST, 1)
-            added += 1
-            with contextlib.suppress(Exception):
-                return client.wait_popup(seconds=5)
-        wait_until(announced, 'the popup', 90)
-        client.wait_rows(calls + added, seconds=60)
+        calls = 20000 + self.announce_calls(client, seconds=90)
+        client.wait_rows(calls, seconds=60)
         self.reports_nothing()
 
     def test_killed_and_restarted_between_polls_over_and_over(self):

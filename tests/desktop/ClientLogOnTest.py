@@ -35,6 +35,14 @@ class LogOnTest(LogOnScene):
         before = switches()
         wait_until(lambda: switches() >= before + count, 'the client to poll', 60)
 
+    def confirm_options(self, client):
+        """They find the mailbox, and the list its calls."""
+        options = Options(client)
+        options.wait_mailboxes([FIRST])
+        options.press(OK)
+        options.wait_closed()
+        client.wait_rows(12, seconds=30)
+
     def test_lists_and_announces_calls_when_user_and_password_were_typed(self):
         client = self.start_refused()
         self.answer(PASSWORD)
@@ -65,11 +73,7 @@ class LogOnTest(LogOnScene):
         self.assertEqual(self.wrong_log_ons(), 1)
         client.choose(CONFIG)
         self.answer(PASSWORD)
-        options = Options(client)
-        options.wait_mailboxes([FIRST])
-        options.press(OK)
-        options.wait_closed()
-        client.wait_rows(12, seconds=30)
+        self.confirm_options(client)
 
     def test_a_credentials_file_that_was_mended_is_taken_when_the_user_acts(self):
         self.write_credentials('wrong')
@@ -78,11 +82,7 @@ class LogOnTest(LogOnScene):
         client.open()
         self.write_credentials(PASSWORD)
         client.choose(CONFIG)
-        options = Options(client)
-        options.wait_mailboxes([FIRST])
-        options.press(OK)
-        options.wait_closed()
-        client.wait_rows(12, seconds=30)
+        self.confirm_options(client)
         self.assertEqual(self.wrong_log_ons(), 1)
 
     def test_takes_a_domain_and_a_password_of_special_characters(self):

@@ -29,6 +29,13 @@ class SmbScene(SceneTest):
     def start_counting(self, calls):
         """As start(), with the first poll done, which learns the counts beside the list and says nothing."""
         client = self.start(calls)
+        added = self.announce_calls(client)
+        client.click_link(X)
+        client.wait_no_popup()
+        return client, calls[FIRST] + added
+
+    def announce_calls(self, client, seconds=60):
+        """How many calls it took: what comes before the first poll is over is not announced."""
         added = 0
 
         def announces_a_call():
@@ -38,10 +45,8 @@ class SmbScene(SceneTest):
             with contextlib.suppress(DesktopError):
                 return client.wait_popup(seconds=3)
 
-        wait_until(announces_a_call, 'the popup to announce a call', 60)
-        client.click_link(X)
-        client.wait_no_popup()
-        return client, calls[FIRST] + added
+        wait_until(announces_a_call, 'the popup to announce a call', seconds)
+        return added
 
     def write_credentials(self, password):
         path = pathlib.Path(self.desktop.env['XDG_CONFIG_HOME']) / 'Corvantis' / 'Quillamar' / 'credentials'

@@ -3,32 +3,27 @@
 #include "platform/jet/IndexChecker.h"
 
 #include "tests/platform/jet/FailureOf.h"
-#include "tests/platform/jet/IndexImages.h"
+#include "tests/platform/jet/IndexOfThreeLeaves.h"
 #include "tests/platform/jet/SourceOf.h"
 
 #include <gmock/gmock.h>
 
 #include <algorithm>
-#include <functional>
 
 namespace jet {
 namespace {
 
+using test::kLeft;
+using test::kMiddle;
+using test::kRight;
+using test::kRoot;
 using test::leafEntry;
 using test::nodeEntry;
 using testing::HasSubstr;
 
-constexpr PageNumber kRoot = 8;
-constexpr PageNumber kLeft = 9;
-constexpr PageNumber kMiddle = 10;
-constexpr PageNumber kRight = 11;
-
-// A root with two entries and a tail over three leaves; rows 0 to 5 of page 6 have the keys 10 to 60.
-class IndexCheckerOfThreeLeaves : public testing::Test {
+class IndexCheckerOfThreeLeaves : public test::IndexOfThreeLeaves {
 protected:
     IndexCheckerOfThreeLeaves() {
-        definition.pages = {test::kLogDefinition};
-        index.root = kRoot;
         index.columns = {{0, true}};
         for (std::uint8_t row = 0; row < 6; ++row)
             rows.push_back({6, row});
@@ -36,12 +31,7 @@ protected:
     }
     void setMap(std::initializer_list<PageNumber> pages) { image.putRows(1, 0, {test::inlineMap(pages)}); }
     std::size_t check() {
-        test::putIndexPage(image, kRoot, root);
-        test::putIndexPage(image, kLeft, left);
-        test::putIndexPage(image, kMiddle, middle);
-        test::putIndexPage(image, kRight, right);
-        if (damage)
-            damage();
+        putPages();
         test::SourceOf source(image);
         IndexChecker checker(source.pages, definition, "Log", rows);
         return checker.check(index, UsageMap::read(source.pages, {1, 0}));
@@ -50,18 +40,7 @@ protected:
         return test::failureOf([this] { check(); });
     }
 
-    test::Image image{12};
-    test::IndexImage root{.isLeaf = false,
-                          .tail = kRight,
-                          .entries = {nodeEntry(20, {6, 1}, kLeft), nodeEntry(40, {6, 3}, kMiddle)}};
-    test::IndexImage left{.next = kMiddle, .entries = {leafEntry(10, {6, 0}), leafEntry(20, {6, 1})}};
-    test::IndexImage middle{
-        .previous = kLeft, .next = kRight, .entries = {leafEntry(30, {6, 2}), leafEntry(40, {6, 3})}};
-    test::IndexImage right{.previous = kMiddle, .entries = {leafEntry(50, {6, 4}), leafEntry(60, {6, 5})}};
-    TableDefinition definition;
-    RealIndex index;
     std::vector<RowPointer> rows;
-    std::function<void()> damage;
 };
 
 TEST_F(IndexCheckerOfThreeLeaves, AcceptsASoundTree) {

@@ -3,42 +3,29 @@
 #include "platform/jet/IndexSearch.h"
 
 #include "tests/platform/jet/FailureOf.h"
-#include "tests/platform/jet/IndexImages.h"
+#include "tests/platform/jet/IndexOfThreeLeaves.h"
 #include "tests/platform/jet/SourceOf.h"
 
 #include <gmock/gmock.h>
 
-#include <functional>
-
 namespace jet {
 namespace {
 
+using test::kLeft;
+using test::kMiddle;
+using test::kPages;
+using test::kRight;
+using test::kRoot;
 using test::leafEntry;
 using test::nodeEntry;
 using testing::ElementsAre;
 using testing::HasSubstr;
 using testing::IsEmpty;
 
-constexpr PageNumber kRoot = 8;
-constexpr PageNumber kLeft = 9;
-constexpr PageNumber kMiddle = 10;
-constexpr PageNumber kRight = 11;
-constexpr PageNumber kPages = 12;
-
-// A root with two entries and a tail over three leaves; rows 0 to 5 of page 6 have the keys 10 to 60.
-class IndexSearchInThreeLeaves : public testing::Test {
+class IndexSearchInThreeLeaves : public test::IndexOfThreeLeaves {
 protected:
-    IndexSearchInThreeLeaves() {
-        definition.pages = {test::kLogDefinition};
-        index.root = kRoot;
-    }
     std::vector<RowPointer> find(std::uint32_t key) {
-        test::putIndexPage(image, kRoot, root);
-        test::putIndexPage(image, kLeft, left);
-        test::putIndexPage(image, kMiddle, middle);
-        test::putIndexPage(image, kRight, right);
-        if (damage)
-            damage();
+        putPages();
         test::SourceOf source(image);
         return IndexSearch(source.pages, definition, "Log").find(index, keyOf(key));
     }
@@ -52,18 +39,6 @@ protected:
         bytes.resize(bytes.size() - IndexEntry::kRowSize);
         return bytes;
     }
-
-    test::Image image{kPages};
-    test::IndexImage root{.isLeaf = false,
-                          .tail = kRight,
-                          .entries = {nodeEntry(20, {6, 1}, kLeft), nodeEntry(40, {6, 3}, kMiddle)}};
-    test::IndexImage left{.next = kMiddle, .entries = {leafEntry(10, {6, 0}), leafEntry(20, {6, 1})}};
-    test::IndexImage middle{
-        .previous = kLeft, .next = kRight, .entries = {leafEntry(30, {6, 2}), leafEntry(40, {6, 3})}};
-    test::IndexImage right{.previous = kMiddle, .entries = {leafEntry(50, {6, 4}), leafEntry(60, {6, 5})}};
-    TableDefinition definition;
-    RealIndex index;
-    std::function<void()> damage;
 };
 
 TEST_F(IndexSearchInThreeLeaves, FindsTheRowOfEachKey) {
