@@ -142,7 +142,7 @@ TEST_F(PlayedWaveTest, StandsAnyOrderOfCommands) {
                                                       [this] { wave->Backward(); },
                                                       [this] { wave->SetPos(0.8); },
                                                       [this] { wave->RunFilterGraph(); },
-                                                      [this] { QTest::qWait(30); },
+                                                      [] { QTest::qWait(30); },
                                                       [this] { place(); }};
     ASSERT_TRUE(wave->Init());
     std::mt19937 random(20260411);
