@@ -52,13 +52,17 @@ void OptionsList::add(errors::Procedure& proc, const data::clsConfig& config, co
 std::optional<MailboxInfo> OptionsList::infoOf(errors::Procedure& proc, const data::clsConfig& config,
                                                const FoundMailbox& mailbox) const {
     bool isTold = false;
-    return proc.value(std::optional<MailboxInfo>(), [&] {
-        if (std::exchange(isTold, true))
-            return readAnew(config, mailbox.number);
+    std::optional<MailboxInfo> info;
+    proc.step([&] {
+        if (std::exchange(isTold, true)) {
+            info = readAnew(config, mailbox.number);
+            return;
+        }
         if (mailbox.failure)
             throw basic::RuntimeError(*mailbox.failure);
-        return mailbox.info;
+        info = mailbox.info;
     });
+    return info;
 }
 
 std::optional<MailboxInfo> OptionsList::readAnew(const data::clsConfig& config, std::int32_t number) const {
