@@ -61,6 +61,14 @@ class EmbeddingTest(unittest.TestCase):
             wait_until(lambda: 'MouseUp 2' in program.events(), 'the right click')
             self.assertEqual([e for e in program.events() if e != 'MouseMove'], ['MouseDown 1'] + RIGHT)
 
+    def test_a_middle_click_says_nothing(self):
+        with Desktop(tray='trayer') as desktop:
+            program = TrayProgram(desktop)
+            desktop.click(*icon_center(desktop), button=2)
+            desktop.click(*icon_center(desktop))
+            program.wait_line('MouseDown 1')
+            self.assertEqual([e for e in program.events() if e != 'MouseMove'], ['MouseDown 1'])
+
     def test_a_double_click_says_double_click(self):
         with Desktop(tray='trayer') as desktop:
             program = TrayProgram(desktop)
