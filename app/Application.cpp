@@ -4,6 +4,7 @@
 
 #include "errors/Failure.h"
 
+#include <QEvent>
 #include <QThread>
 
 #include <exception>
@@ -21,6 +22,13 @@ bool Application::notify(QObject* receiver, QEvent* event) {
         m_errorHandler->ReportError("Application", "notify", failure.number, failure.description, 0);
     }
     return false;
+}
+
+bool Application::event(QEvent* event) {
+    if (event->type() != QEvent::Quit)
+        return QApplication::event(event);
+    Q_EMIT askedToQuit();
+    return true;
 }
 
 } // namespace app

@@ -5,6 +5,8 @@
 // reported as Application's notify and goes no further, for an exception that reaches the toolkit's event
 // loop ends the program. The event cannot be sent a second time, as its receiver may be gone: whatever is
 // answered, the program goes on with the next one.
+//
+// The toolkit does not end the program: a session manager that wants its clients to go is only passed on.
 
 #include "errors/ErrorHandler.h"
 
@@ -21,6 +23,14 @@ public:
     void reportTo(errors::ErrorHandler* errorHandler) { m_errorHandler = errorHandler; }
 
     bool notify(QObject* receiver, QEvent* event) override;
+
+Q_SIGNALS:
+    // The session ends, now for certain: what it asked for before, to save, may have been a mere checkpoint
+    // or for a log-out that was cancelled.
+    void askedToQuit();
+
+protected:
+    bool event(QEvent* event) override;
 
 private:
     errors::ErrorHandler* m_errorHandler = nullptr;

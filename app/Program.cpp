@@ -21,7 +21,6 @@
 #include <QApplication>
 #include <QDBusConnection>
 #include <QRandomGenerator>
-#include <QSessionManager>
 
 #include <filesystem>
 #include <utility>
@@ -230,14 +229,15 @@ void Program::connectEvents(SingleInstance& instance) {
                                {[this] { activate(m_main); }, [this] { m_main.notificationAreaMissing(); },
                                 [this] { m_main.notificationAreaReturned(); },
                                 [this] { m_main.unload(UnloadMode::SessionEnd); }}};
-    QObject::connect(&m_main, &frmMain::unloaded, qApp, &QCoreApplication::quit, Qt::QueuedConnection);
+    QObject::connect(
+        &m_main, &frmMain::unloaded, qApp, [] { QCoreApplication::exit(); }, Qt::QueuedConnection);
     QObject::connect(&instance, &SingleInstance::activated, &m_main, [events] { events.activated(); });
     QObject::connect(&m_areaWatch, &shell::NotificationAreaWatch::missing, &m_main,
                      [events] { events.notificationAreaMissing(); });
     QObject::connect(&m_areaWatch, &shell::NotificationAreaWatch::returned, &m_main,
                      [events] { events.notificationAreaReturned(); });
     QObject::connect(&m_signals, &TerminationSignals::received, &m_main, [events] { events.sessionEnds(); });
-    QObject::connect(qApp, &QGuiApplication::commitDataRequest, &m_main, [events] { events.sessionEnds(); });
+    QObject::connect(&m_application, &Application::askedToQuit, &m_main, [events] { events.sessionEnds(); });
 }
 
 Program::~Program() {

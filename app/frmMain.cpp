@@ -231,7 +231,7 @@ void frmMain::Form_Unload() {
 }
 
 void frmMain::closeEvent(QCloseEvent* event) {
-    event->setAccepted(m_isUnloaded || qApp->isSavingSession());
+    event->setAccepted(m_isUnloaded);
     if (!event->isAccepted())
         unload(UnloadMode::User);
 }

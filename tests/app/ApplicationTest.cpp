@@ -51,6 +51,17 @@ TEST_F(ApplicationTest, EventsReachTheirReceivers) {
     EXPECT_TRUE(m_errorHandler.reports.empty());
 }
 
+// What the session manager's "die" comes as.
+TEST_F(ApplicationTest, ASessionThatEndsIsPassedOnAndTheLoopGoesOn) {
+    int asked = 0;
+    const auto connection = QObject::connect(&application(), &Application::askedToQuit, [&] { ++asked; });
+    QTimer::singleShot(0, [] { QCoreApplication::quit(); });
+    QTimer::singleShot(1, [] { QCoreApplication::exit(42); });
+    EXPECT_EQ(QCoreApplication::exec(), 42);
+    QObject::disconnect(connection);
+    EXPECT_EQ(asked, 1);
+}
+
 } // namespace
 } // namespace app
 
