@@ -73,7 +73,7 @@ bool DeleteAll::isConfirmed() const {
 bool DeleteAll::emptyLog(errors::Procedure& proc, std::int32_t mailboxID,
                          const data::clsConfig& config) const {
     std::shared_ptr<jet::Connection> connection;
-    proc.step([&] { connection = m_parts.common.GetMBXCon(mailboxID, config); });
+    proc.step([&] { connection = m_parts.common.GetMBXCon(mailboxID, config, jet::Purpose::Change); });
     proc.step([&] { m_parts.stopPlay(); });
     return proc.step([&] { required(connection).BeginTrans(); }) &&
            proc.step([&] { connection->Execute(data::kDeleteCalls); }) &&

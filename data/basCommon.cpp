@@ -18,9 +18,9 @@ constexpr const char* kProvider =
     "Provider=Microsoft.Jet.OLEDB.4.0;Jet OLEDB:Database Locking Mode=1;Data Source=";
 
 // An open that fails is a mailbox that is not available now; nobody is told.
-bool opens(jet::Connection& connection, const std::string& connectionString) {
+bool opens(jet::Connection& connection, const std::string& connectionString, jet::Purpose purpose) {
     try {
-        connection.Open(connectionString);
+        connection.Open(connectionString, purpose);
         return true;
     } catch (const std::exception&) {
         return false;
@@ -44,14 +44,15 @@ std::string basCommon::GetQMPath(std::string_view serverName) const {
     return path;
 }
 
-std::shared_ptr<jet::Connection> basCommon::GetMBXCon(std::int32_t mailboxID, const clsConfig& config) const {
+std::shared_ptr<jet::Connection> basCommon::GetMBXCon(std::int32_t mailboxID, const clsConfig& config,
+                                                      jet::Purpose purpose) const {
     errors::Procedure proc{m_errors, kModule, "GetMBXCon"};
     std::shared_ptr<jet::Connection> connection;
     std::string path;
     proc.step([&] { connection = m_newConnection(); });
     proc.step([&] { path = mailboxDatabase(GetQMPath(config.ServerName), mailboxID); });
     const bool exists = proc.value(false, [&] { return m_files.FileExists(path); });
-    if (!connection || !exists || !proc.running() || !opens(*connection, connectionString(path)))
+    if (!connection || !exists || !proc.running() || !opens(*connection, connectionString(path), purpose))
         return nullptr;
     return connection;
 }

@@ -29,8 +29,10 @@ public:
     std::string GetQMPath(std::string_view serverName) const;
 
     // An open connection to the mailbox's call log. Null, without a word to the user, when the database is
-    // missing or cannot be opened: the caller skips the mailbox.
-    std::shared_ptr<jet::Connection> GetMBXCon(std::int32_t mailboxID, const clsConfig& config) const;
+    // missing or cannot be opened: the caller skips the mailbox. Who is about to change it gets a connection
+    // also while somebody else has the database to himself.
+    std::shared_ptr<jet::Connection> GetMBXCon(std::int32_t mailboxID, const clsConfig& config,
+                                               jet::Purpose purpose = jet::Purpose::Read) const;
 
 private:
     errors::ErrorHandler& m_errors;

@@ -10,11 +10,14 @@
 #include <utility>
 
 namespace jet {
-void Connection::Open(std::string_view connectionString) {
+void Connection::Open(std::string_view connectionString, Purpose purpose) {
     if (State() != 0)
         throw basic::RuntimeError(basic::kObjectOpen);
     std::string path = ConnectionString::parse(connectionString).dataSource();
-    m_engine.checkDatabase(path);
+    if (purpose == Purpose::Change)
+        m_engine.checkDatabaseToChange(path);
+    else
+        m_engine.checkDatabase(path);
     m_path = std::move(path);
 }
 

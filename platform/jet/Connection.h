@@ -18,6 +18,9 @@
 
 namespace jet {
 
+// What the statements of a connection are to do with the database.
+enum class Purpose { Read, Change };
+
 class Connection {
 public:
     explicit Connection(Engine& engine) : m_engine(engine) {}
@@ -25,8 +28,9 @@ public:
     Connection& operator=(const Connection&) = delete;
 
     // "Provider=Microsoft.Jet.OLEDB.4.0;Data Source=<UNC path>"; refuses a file that cannot be opened or is
-    // no Jet 4 database.
-    void Open(std::string_view connectionString);
+    // no Jet 4 database. For a change, a file that somebody else has to himself is not refused: the statement
+    // waits for him and, if he does not leave, names him.
+    void Open(std::string_view connectionString, Purpose purpose = Purpose::Read);
     void Close();
     // 0 closed, 1 open.
     std::int32_t State() const noexcept { return m_path.empty() ? 0 : 1; }

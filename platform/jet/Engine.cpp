@@ -39,9 +39,18 @@ void Engine::checkDatabase(std::string_view path) {
             if (!DatabaseHeader::read(*file).commitWords.isWriting())
                 return;
             if (attempt == kMaxReadTries)
-                failBusy(*file);
+                throw DatabaseBusy(*file);
         }
         m_pause(attempt);
+    }
+}
+
+void Engine::checkDatabaseToChange(std::string_view path) {
+    try {
+        DatabaseHeader::read(*m_files.openFile(path, share::OpenMode::Read));
+    } catch (const basic::RuntimeError& error) {
+        if (error.number() != basic::kFileAlreadyOpen)
+            throw;
     }
 }
 

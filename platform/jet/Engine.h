@@ -31,12 +31,20 @@ public:
     // Opens the file and closes it again: an error when that fails, when it is no database, or when somebody
     // is said to be writing to it and does not end.
     void checkDatabase(std::string_view path);
+    // The same for a change to come. Who else is in now is no error: the change will wait for him, and name
+    // him if he does not leave.
+    void checkDatabaseToChange(std::string_view path);
 
     // Opens the database, calls `read` with it and answers its result if nobody wrote meanwhile. Everything
     // that may come of a half-written page, errors and results, is tried again a bounded number of times;
     // the last try's error is believed. The database is closed on return.
     template <typename Read>
     auto readDatabase(std::string_view path, Read&& read);
+
+    // The same as long as a change waits for others: for the look before it. kProviderFailure that names who
+    // has the database alone when he does not leave in time.
+    template <typename Read>
+    auto readToChange(const std::string& path, Read&& read);
 
     // Opens the database for a change once nobody else is in it. kProviderFailure that names who is in when
     // that does not come true in time, and what SoleAccess throws.
@@ -63,6 +71,29 @@ template <typename Read>
 auto Engine::readDatabase(std::string_view path, Read&& read) {
     const auto open = [&] { return Database(openForReading(path)); };
     return readConsistently(m_pause, open, std::forward<Read>(read));
+}
+
+template <typename Read>
+auto Engine::readToChange(const std::string& path, Read&& read) {
+    int left = m_sharing.tries;
+    const ReadPause pause = [&](int) {
+        --left;
+        m_sharing.sleep(SharingWait::randomPause());
+    };
+    const auto open = [&] { return Database(m_files.openFile(path, share::OpenMode::Read)); };
+    for (;; pause(1)) {
+        try {
+            return readConsistently(pause, open, read);
+        } catch (const DatabaseBusy&) {
+            if (left <= 1)
+                throw;
+        } catch (const basic::RuntimeError& error) {
+            if (error.number() != basic::kFileAlreadyOpen)
+                throw;
+            if (left <= 1)
+                SoleAccess::failInUse(m_files, path);
+        }
+    }
 }
 
 } // namespace jet

@@ -6,10 +6,9 @@
 
 namespace jet {
 
-void failBusy(const share::File& file) {
-    throw basic::RuntimeError(basic::kProviderFailure,
-                              file.name() + ": the database is being written, no consistent state after " +
-                                  std::to_string(kMaxReadTries) + " tries");
-}
+DatabaseBusy::DatabaseBusy(const share::File& file)
+    : RuntimeError(basic::kProviderFailure,
+                   file.name() + ": the database is being written, no consistent state after " +
+                       std::to_string(kMaxReadTries) + " tries") {}
 
 } // namespace jet

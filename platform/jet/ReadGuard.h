@@ -35,7 +35,11 @@ inline constexpr int kMaxReadTries = 5;
 // Waits between two tries; hands in the number of the try that went wrong, from 1.
 using ReadPause = std::function<void(int attempt)>;
 
-[[noreturn]] void failBusy(const share::File& file);
+// Nothing is wrong with the database; whoever can wait may try again.
+class DatabaseBusy final : public basic::RuntimeError {
+public:
+    explicit DatabaseBusy(const share::File& file);
+};
 
 // One reading under the guard; nothing when what was read may be torn. Damage that `read` reports may be a
 // half-written page, so it is believed only at the last try; any other error as soon as nobody wrote
@@ -68,7 +72,7 @@ auto readConsistently(const ReadPause& pause, Open&& open, Read&& read) {
             if (auto result = readOnce(guard, isLast, [&] { return read(opened); }))
                 return std::move(*result);
             if (isLast)
-                failBusy(opened.file());
+                throw DatabaseBusy(opened.file());
         }
         pause(attempt);
     }

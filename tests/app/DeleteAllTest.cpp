@@ -6,6 +6,7 @@
 #include "platform/forms/TabStrip.h"
 #include "platform/share/LocalFile.h"
 #include "tests/app/MainWorld.h"
+#include "tests/platform/share/DenyingFileSystem.h"
 
 #include <sys/stat.h>
 
@@ -24,10 +25,11 @@ protected:
         load();
     }
 
-    void run() {
+    void run() { run(common); }
+    void run(data::basCommon& connections) {
         forms::TabStrip& tabs = *window->findChild<forms::TabStrip*>(QStringLiteral("TabStrip"));
         errors::Procedure proc{reporter, "frmMain", "ab_ToolClick"};
-        DeleteAll({common, files, messageBoxes, tabs, window->state(), *window,
+        DeleteAll({connections, files, messageBoxes, tabs, window->state(), *window,
                    [this] {
                        ++stops;
                        if (onStop)
@@ -189,6 +191,21 @@ TEST_F(DeleteAllTest, AbortEndsTheCommand) {
     run();
     EXPECT_EQ(callsIn(12), 3U);
     EXPECT_TRUE(pauses.empty());
+}
+
+// Another client that deletes, for example: the server keeps everybody else out meanwhile.
+TEST_F(DeleteAllTest, SomebodyWhoHasTheDatabaseAloneForAMomentIsWaitedFor) {
+    loadTwoMailboxes();
+    share::testing::DenyingFileSystem server(files);
+    int waits = 0;
+    jet::Engine patient(server, [](int) {}, {.sleep = [&](std::chrono::milliseconds) { ++waits; }});
+    data::basCommon connections(reporter, server, [&] { return std::make_shared<jet::Connection>(patient); });
+    server.readRefusals = 20;
+    server.exclusiveRefusals = 20;
+    run(connections);
+    EXPECT_TRUE(reporter.reports.empty());
+    EXPECT_EQ(waits, 39);
+    EXPECT_EQ(callsIn(12), 0U);
 }
 
 TEST_F(DeleteAllTest, MailboxWithoutDatabaseIsError91) {

@@ -88,7 +88,7 @@ struct Run {
 } // namespace
 
 void ChangeRunner::check(const Change& change) {
-    m_engine.readDatabase(m_path, [&](Database& database) {
+    m_engine.readToChange(m_path, [&](Database& database) {
         std::visit(Check{database.file()}, change);
         return true;
     });

@@ -18,7 +18,8 @@ class ChangeRunner {
 public:
     ChangeRunner(Engine& engine, std::string path) : m_engine(engine), m_path(std::move(path)) {}
 
-    // Throws what run() would throw for the statement as the database is now, and writes nothing.
+    // Throws what run() would throw for the statement as the database is now, and writes nothing. Whoever has
+    // it to himself meanwhile is waited for as long as by run().
     void check(const Change& change);
     // kProviderSyntax for an unknown column of an INSERT, kProviderMismatch for a value that its column
     // cannot hold, kProviderIntegrity for a key that is there; what TableWriter, TableEmptier and

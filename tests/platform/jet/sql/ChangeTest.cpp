@@ -39,6 +39,11 @@ protected:
         const auto file = share::LocalFile::open(m_database.place(), share::OpenMode::Read);
         return CommitWords::read(*file).words[user];
     }
+    void setWord(std::size_t user, std::uint16_t word) const {
+        FileImage image = m_database.bytes();
+        ByteEditor(image).put16(format::commitWords::kOffset + 2 * user, word);
+        m_database.setBytes(image);
+    }
     std::unique_ptr<share::File> openLockFile(share::OpenMode mode) const {
         return share::LocalFile::open(m_database.lockFilePlace(), mode);
     }
@@ -205,9 +210,8 @@ TEST_F(ChangeTest, StaleEntryKeepsNobodyOut) {
 class MarkedDatabase : public ChangeTest, public ::testing::WithParamInterface<std::uint8_t> {};
 
 TEST_P(MarkedDatabase, IsRefused) {
-    FileImage image = m_database.bytes();
-    ByteEditor(image).put16(format::commitWords::kOffset + 10, GetParam());
-    m_database.setBytes(image);
+    setWord(5, GetParam());
+    const FileImage image = m_database.bytes();
     EXPECT_ERROR(basic::kProviderFailure, execute(kDelete));
     EXPECT_ERROR(basic::kProviderFailure, execute(kInsert));
     EXPECT_THAT(failureOf(kDelete), HasSubstr("being written or needs repair"));
@@ -224,7 +228,7 @@ protected:
         m_files.opened.clear();
     }
 
-    DenyingFileSystem m_files{m_database.files};
+    share::testing::DenyingFileSystem m_files{m_database.files};
     Engine m_remoteEngine{m_files, [](int) {}, m_wait};
     Connection m_remote{m_remoteEngine};
 };
@@ -256,6 +260,84 @@ TEST_F(DenyingServer, SomebodyInsideIsNamedAndNothingIsChanged) {
         EXPECT_EQ(error.number(), basic::kProviderFailure);
         EXPECT_THAT(error.description(), HasSubstr("operator on RECEPTION"));
     }
+    EXPECT_EQ(m_database.bytes(), before);
+}
+
+TEST_F(DenyingServer, DeleteInATransactionWaitsForSomebodyWhoHasTheFileAlone) {
+    m_remote.BeginTrans();
+    m_files.readRefusals = 3;
+    m_remote.Execute(kDelete);
+    EXPECT_EQ(m_pauses, 3);
+    m_files.exclusiveRefusals = 2;
+    m_remote.CommitTrans();
+    EXPECT_EQ(m_pauses, 5);
+    EXPECT_EQ(m_database.rowCount(), 0U);
+}
+
+TEST_F(DenyingServer, SomebodyWhoKeepsTheFileAloneIsNamedWhenTheDeleteIsExecuted) {
+    const FileImage before = m_database.bytes();
+    const OtherUser other(openLockFile(share::OpenMode::Create));
+    m_remote.BeginTrans();
+    m_files.onlyTheDatabase = SharedDatabase::kPath;
+    m_files.readRefusals = 1000;
+    try {
+        m_remote.Execute(kDelete);
+        FAIL();
+    } catch (const basic::RuntimeError& error) {
+        EXPECT_EQ(error.number(), basic::kProviderFailure);
+        EXPECT_THAT(error.description(), HasSubstr("operator on RECEPTION"));
+    }
+    EXPECT_EQ(m_pauses, 4) << "as often as a commit tries";
+    EXPECT_EQ(m_database.bytes(), before);
+}
+
+TEST_F(DenyingServer, FileThatSomebodyHasAloneOpensForAChangeOnly) {
+    m_files.readRefusals = 1000;
+    Connection connection(m_remoteEngine);
+    EXPECT_ERROR(basic::kFileAlreadyOpen, connection.Open(SharedDatabase::kConnection));
+    connection.Open(SharedDatabase::kConnection, Purpose::Change);
+    m_files.readRefusals = 0;
+    connection.Execute(kDelete);
+    EXPECT_EQ(m_database.rowCount(), 0U);
+}
+
+TEST_F(ChangeTest, FileThatIsNoDatabaseIsRefusedForAChangeToo) {
+    m_database.setBytes(FileImage(8192));
+    Connection connection(m_engine);
+    EXPECT_ERROR(basic::kProviderFailure, connection.Open(SharedDatabase::kConnection, Purpose::Change));
+    std::filesystem::remove(m_database.place());
+    EXPECT_ERROR(basic::kFileNotFound, connection.Open(SharedDatabase::kConnection, Purpose::Change));
+}
+
+TEST_F(ChangeTest, DeleteInATransactionWaitsForAWriter) {
+    setWord(10, format::commitWords::kWriting);
+    m_onPause = [this] {
+        if (m_pauses == 3)
+            setWord(10, 0x0101);
+    };
+    Connection connection(m_engine);
+    connection.Open(SharedDatabase::kConnection, Purpose::Change);
+    connection.BeginTrans();
+    connection.Execute(kDelete);
+    EXPECT_EQ(m_pauses, 3);
+    connection.CommitTrans();
+    EXPECT_EQ(m_database.rowCount(), 0U);
+}
+
+TEST_F(ChangeTest, WriterThatDoesNotEndIsToldWhenTheDeleteIsExecuted) {
+    setWord(10, format::commitWords::kWriting);
+    const FileImage before = m_database.bytes();
+    Connection connection(m_engine);
+    connection.Open(SharedDatabase::kConnection, Purpose::Change);
+    connection.BeginTrans();
+    try {
+        connection.Execute(kDelete);
+        FAIL();
+    } catch (const basic::RuntimeError& error) {
+        EXPECT_EQ(error.number(), basic::kProviderFailure);
+        EXPECT_THAT(error.description(), HasSubstr("the database is being written"));
+    }
+    EXPECT_EQ(m_pauses, m_wait.tries - 1) << "as often as a commit tries";
     EXPECT_EQ(m_database.bytes(), before);
 }
 

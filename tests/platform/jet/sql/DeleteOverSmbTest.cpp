@@ -84,6 +84,27 @@ TEST_F(DeleteOverSmb, SomebodyWhoHasTheFileOpenKeepsItWhole) {
     EXPECT_NE(bytes(), before);
 }
 
+// Reads are refused as well then, so the delete is not even checked before the other one has left.
+TEST_F(DeleteOverSmb, WaitsForSomebodyWhoHasTheFileAloneForHalfASecond) {
+    SmbClient other(m_samba.port());
+    auto alone = other.files().openFile(kDatabase, share::OpenMode::Exclusive);
+    const auto leaving = std::chrono::steady_clock::now() + std::chrono::milliseconds(500);
+    const auto leaveInTime = [&](std::chrono::milliseconds pause) {
+        SharingWait::sleepFor(pause);
+        if (std::chrono::steady_clock::now() >= leaving)
+            alone.reset();
+    };
+    Engine engine(m_client.files(), Engine::sleepBriefly, {.sleep = leaveInTime});
+    Connection connection(engine);
+    connection.Open("Provider=Microsoft.Jet.OLEDB.4.0;Data Source=" + kDatabase, Purpose::Change);
+    connection.BeginTrans();
+    connection.Execute(kDelete);
+    EXPECT_EQ(alone, nullptr) << "the other one was waited for";
+    alone = other.files().openFile(kDatabase, share::OpenMode::Exclusive);
+    connection.CommitTrans();
+    EXPECT_EQ(runTool("mdb-count '" + place() + "' CallLog"), "0\n");
+}
+
 // The server's program and the client, each with a connection of its own to the same smbd.
 TEST_F(DeleteOverSmb, LosesNoCallThatIsAppendedMeanwhile) {
     setBytes(callLogDatabase(0));

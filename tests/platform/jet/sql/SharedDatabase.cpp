@@ -7,43 +7,6 @@
 #include <filesystem>
 
 namespace jet::test {
-namespace {
-
-class DenyingFile final : public share::File {
-public:
-    explicit DenyingFile(std::unique_ptr<share::File> behind) : m_behind(std::move(behind)) {}
-
-    const std::string& name() const override { return m_behind->name(); }
-    bool excludesOthers() const override { return true; }
-    std::uint64_t size() override { return m_behind->size(); }
-    std::size_t read(std::uint64_t offset, std::span<std::byte> into) override {
-        return m_behind->read(offset, into);
-    }
-    void write(std::uint64_t offset, std::span<const std::byte> from) override {
-        m_behind->write(offset, from);
-    }
-    void sync() override { m_behind->sync(); }
-    bool lock(std::uint64_t, std::uint64_t, share::LockKind) override { return false; }
-    void unlock(std::uint64_t, std::uint64_t) override {}
-
-private:
-    std::unique_ptr<share::File> m_behind;
-};
-
-} // namespace
-
-std::unique_ptr<share::File> DenyingFileSystem::openFile(std::string_view path, share::OpenMode mode) {
-    opened.emplace_back(path);
-    int& refusals = mode == share::OpenMode::Exclusive ? exclusiveRefusals : readRefusals;
-    if (refusals > 0) {
-        --refusals;
-        throw basic::RuntimeError(basic::kFileAlreadyOpen);
-    }
-    if (mode != share::OpenMode::Exclusive)
-        return m_behind.openFile(path, mode);
-    return std::make_unique<DenyingFile>(m_behind.openFile(path, mode));
-}
-
 SharedDatabase::SharedDatabase(const FileImage& image)
     : files(share::ShareResolver([this](std::string_view) { return m_folder.path("share"); },
                                  [] { return std::string(); })) {

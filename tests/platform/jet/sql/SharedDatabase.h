@@ -9,6 +9,7 @@
 #include "platform/share/LocalFileSystemObject.h"
 #include "tests/platform/jet/EmptyingScenario.h"
 #include "tests/platform/jet/WrittenDatabase.h"
+#include "tests/platform/share/DenyingFileSystem.h"
 #include "tests/platform/share/FaultyFileSystem.h"
 
 #include <functional>
@@ -16,25 +17,6 @@
 #include <vector>
 
 namespace jet::test {
-
-// The file system of a server that can deny all sharing.
-class DenyingFileSystem final : public share::FileSystemObject {
-public:
-    explicit DenyingFileSystem(share::FileSystemObject& behind) : m_behind(behind) {}
-
-    int exclusiveRefusals = 0; // of the next ones to open a file exclusively
-    int readRefusals = 0;      // of the next other ones
-    std::vector<std::string> opened;
-
-    bool FileExists(std::string_view path) override { return m_behind.FileExists(path); }
-    bool FolderExists(std::string_view path) override { return m_behind.FolderExists(path); }
-    std::vector<std::string> SubFolders(std::string_view path) override { return m_behind.SubFolders(path); }
-    void DeleteFile(std::string_view pattern, bool force) override { m_behind.DeleteFile(pattern, force); }
-    std::unique_ptr<share::File> openFile(std::string_view path, share::OpenMode mode) override;
-
-private:
-    share::FileSystemObject& m_behind;
-};
 
 class SharedDatabase {
 public:
