@@ -238,6 +238,7 @@ void Program::connectEvents(SingleInstance& instance) {
                      [events] { events.notificationAreaReturned(); });
     QObject::connect(&m_signals, &TerminationSignals::received, &m_main, [events] { events.sessionEnds(); });
     QObject::connect(&m_application, &Application::askedToQuit, &m_main, [events] { events.sessionEnds(); });
+    QObject::connect(&m_sessionLoss, &SessionLoss::lost, &m_main, [events] { events.sessionEnds(); });
 }
 
 Program::~Program() {

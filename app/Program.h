@@ -10,6 +10,7 @@
 #include "app/LastErrors.h"
 #include "app/LogOns.h"
 #include "app/RememberedLogOns.h"
+#include "app/SessionLoss.h"
 #include "app/ShareWaiter.h"
 #include "app/SingleInstance.h"
 #include "app/TerminationSignals.h"
@@ -114,6 +115,7 @@ private:
     shell::help::DesktopHelp m_help;
     shell::ProgramStarter m_programs;
     TerminationSignals m_signals;
+    SessionLoss m_sessionLoss;
     frmMain m_main;
 };
 

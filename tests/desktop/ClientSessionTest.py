@@ -193,5 +193,21 @@ class GoesOnTest(SessionScene):
         self.counts_on(client)
 
 
+class LostManagerTest(SessionScene):
+    def test_ends_in_order_when_the_manager_crashes(self):
+        client = self.start({FIRST: 3})
+        self.session.member()
+        self.session.crash()
+        self.ends(client)
+
+    def test_ends_in_order_when_the_manager_crashes_while_a_dialog_is_open(self):
+        client = self.start({FIRST: 3})
+        self.session.member()
+        client.choose(CONFIG)
+        self.desktop.wait_active(OPTIONS, 15)
+        self.session.crash()
+        self.ends(client)
+
+
 if __name__ == '__main__':
     unittest.main(verbosity=2)

@@ -1,6 +1,9 @@
 # SPDX-FileCopyrightText: 2026 The qmClient authors
 # SPDX-License-Identifier: GPL-3.0-or-later
 """A session that programs join which are started from then on; its manager speaks the X protocol for that."""
+import os
+import signal
+
 from .processes import DesktopError, wait_until
 from .question_process import QuestionProcess
 
@@ -14,6 +17,9 @@ class Session:
 
     def end(self):
         self._manager.end()
+
+    def crash(self):
+        os.kill(self._manager.pid, signal.SIGKILL)
 
     def member(self):
         """What is known of the program: properties, saved, closed …; waits for it to join."""
