@@ -8,7 +8,8 @@ import sys
 import unittest
 
 sys.dont_write_bytecode = True
-from client import TITLE, Client  # noqa: E402
+from client import Client  # noqa: E402
+from delete_question import DeleteQuestion  # noqa: E402
 from samba import Samba  # noqa: E402
 from scene import FIRST, SECOND, SceneTest  # noqa: E402
 from site_folder import BIN, database, mailbox_folder  # noqa: E402
@@ -16,10 +17,8 @@ from site_folder import BIN, database, mailbox_folder  # noqa: E402
 PICTURES = BIN.parent / 'pictures' / 'delete'
 
 
-class DeleteTest(SceneTest):
+class DeleteTest(DeleteQuestion, SceneTest):
     language = 'en'
-    menu = ('alt+e', 'd')
-    question = 'Are you sure you want to delete all of your messages?'
 
     def start_client(self):
         """Over two mailboxes with five calls each and their messages, the first one's list shown."""
@@ -32,20 +31,8 @@ class DeleteTest(SceneTest):
         self.client.wait_rows(5)
 
     def ask(self):
-        """Chooses the command and waits for its question."""
-        self.desktop.wait_active(TITLE)
-        self.desktop.key(*self.menu)
-        self.desktop.wait_for(self.is_asked, 'the question', 20)
+        super().ask()
         self.picture('question')
-
-    def is_asked(self):
-        return self.desktop.objects(self.client.process, 'label', f'^{self.question[:-1]}.$')
-
-    def answer_ok(self):
-        button = self.desktop.objects(self.client.process, 'push button', '^OK$')[0]
-        box = next(w for w in self.desktop.windows.all()
-                   if w.pid == self.client.process.pid and 'MODAL' in w.states)
-        self.desktop.click_object(button, box)
 
     def sounds(self, number):
         return sorted(path for path in mailbox_folder(self.share, number).iterdir()

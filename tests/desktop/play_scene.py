@@ -26,13 +26,15 @@ class PlayScene(SceneTest):
         """What the administrator writes for the server: a folder of this machine unless a test says otherwise."""
         return self.share
 
-    def start_client(self, sound=True):
-        """Over one mailbox of the demo share, its window shown."""
+    def start_client(self, sound=True, mailboxes=1):
+        """Over so many mailboxes of the demo share, the first one's list shown."""
         if sound:
             self.sound.start()
         run('qmdemo', self.share, '--once')
-        self.number = min(int(entry.name) for entry in (self.share / 'MBX').iterdir())
-        write_settings(self.desktop.env['XDG_CONFIG_HOME'], self.server_address(), {self.number: 'Reception'}, 600)
+        self.numbers = sorted(int(entry.name) for entry in (self.share / 'MBX').iterdir())[:mailboxes]
+        self.number = self.numbers[0]
+        write_settings(self.desktop.env['XDG_CONFIG_HOME'], self.server_address(),
+                       {number: f'Mailbox {number}' for number in self.numbers}, 600)
         client = Client(self.desktop)
         client.open()
         self.calls = self.calls_by_mdbtools(self.number)[::-1]
