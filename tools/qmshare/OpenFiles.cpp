@@ -90,8 +90,11 @@ int OpenFiles::write(std::uint32_t handle, std::uint64_t offset, std::span<const
 
 std::int64_t OpenFiles::size(std::uint32_t handle) {
     struct stat status {};
-    if (::smbc_getFunctionFstat(m_context.get())(m_context.get(), m_files.at(handle), &status) != 0)
+    if (::smbc_getFunctionFstat(m_context.get())(m_context.get(), m_files.at(handle), &status) != 0) {
+        if (errno == EINVAL) // the library's word for a server that did not answer
+            errno = ECONNRESET;
         return -1;
+    }
     return status.st_size;
 }
 

@@ -72,6 +72,15 @@ TEST_F(SmbServerTest, LosesOpenFilesWithTheConnectionAndOpensThemAnew) {
     EXPECT_EQ(m_client.files().openFile(onShare("log"), OpenMode::Read)->read(0, buffer), 3U);
 }
 
+TEST_F(SmbServerTest, NumbersALostConnectionTheSameWhateverIsAskedOfTheFile) {
+    const auto reading = m_client.files().openFile(onShare("log"), OpenMode::Read);
+    m_samba.cutConnections();
+    EXPECT_ERROR(basic::kDeviceIoError, reading->size());
+    const auto writing = m_client.files().openFile(onShare("log"), OpenMode::ReadWrite);
+    m_samba.cutConnections();
+    EXPECT_ERROR(basic::kDeviceIoError, writing->write(0, bytesOf("new")));
+}
+
 TEST_F(SmbServerTest, GivesUpAStoppedServerAtTheDeadlineAndFindsItAgain) {
     EXPECT_TRUE(isThere());
     const pid_t first = m_client.server().helperId();
