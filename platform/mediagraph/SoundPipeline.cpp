@@ -3,6 +3,8 @@
 #include "platform/mediagraph/SoundPipeline.h"
 
 #include "platform/basic/RuntimeError.h"
+#include "platform/mediagraph/LedInSource.h"
+#include "platform/mediagraph/SampleSource.h"
 
 #include <cmath>
 #include <string>
@@ -44,17 +46,26 @@ void noteMove(GstElement*, GParamSpec*, gpointer user) {
 SoundPipeline::SoundPipeline(std::shared_ptr<const Samples> samples, double fromSeconds,
                              const OutputDevice& device, std::function<void()> messageCame)
     : m_from(fromSeconds), m_rate(samples->rate),
-      m_next(std::make_shared<std::atomic<std::size_t>>(std::lround(fromSeconds * samples->rate))),
+      m_progress(std::make_shared<FeedingProgress>(std::lround(fromSeconds * samples->rate))),
       m_messageCame(std::move(messageCame)),
       m_pipeline(GST_ELEMENT(gst_object_ref_sink(gst_pipeline_new(nullptr)))), m_sink(add(newSink(device))) {
-    GstElement* source = add(newSampleSource(std::move(samples), m_next));
-    GstElement* convert = add(newElement("audioconvert"));
-    GstElement* resample = add(newElement("audioresample"));
-    gst_element_link_many(source, convert, resample, m_sink, nullptr);
+    addSource(std::move(samples), device);
     m_bus.reset(gst_pipeline_get_bus(GST_PIPELINE(m_pipeline.get())));
     gst_bus_set_sync_handler(m_bus.get(), wake, &m_messageCame, nullptr);
     if (hasProperty(m_sink, "current-device"))
         g_signal_connect(m_sink, "notify::current-device", G_CALLBACK(noteMove), &m_mayHaveMoved);
+}
+
+// PipeWire converts by itself.
+void SoundPipeline::addSource(std::shared_ptr<const Samples> samples, const OutputDevice& device) {
+    if (device.element == "pipewiresink") {
+        gst_element_link(add(newLedInSource(std::move(samples), m_progress)), m_sink);
+        return;
+    }
+    GstElement* source = add(newSampleSource(std::move(samples), m_progress));
+    GstElement* convert = add(newElement("audioconvert"));
+    GstElement* resample = add(newElement("audioresample"));
+    gst_element_link_many(source, convert, resample, m_sink, nullptr);
 }
 
 GstElement* SoundPipeline::add(GstElement* element) {
@@ -79,13 +90,16 @@ bool SoundPipeline::isPlaying() {
 
 std::optional<double> SoundPipeline::position() {
     gint64 time = 0;
-    if (!gst_element_query_position(m_pipeline.get(), GST_FORMAT_TIME, &time))
+    const GstClockTime begin = m_progress->begin;
+    if (!gst_element_query_position(m_pipeline.get(), GST_FORMAT_TIME, &time) ||
+        static_cast<GstClockTime>(time) < begin)
         return std::nullopt;
-    return m_from + static_cast<double>(time) / static_cast<double>(GST_SECOND);
+    return m_from +
+           static_cast<double>(static_cast<GstClockTime>(time) - begin) / static_cast<double>(GST_SECOND);
 }
 
 double SoundPipeline::handedOut() const {
-    return static_cast<double>(*m_next) / m_rate;
+    return static_cast<double>(m_progress->handedOut) / m_rate;
 }
 
 GstRef<GstMessage> SoundPipeline::message() {

@@ -1,15 +1,15 @@
 // SPDX-FileCopyrightText: 2026 The qmClient authors
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
-// The GStreamer pipeline that plays one message at one device from one place on, once: appsrc, conversion to
-// what the device wants, the device's own sink. It is never paused or sent elsewhere; for that one makes
-// another. Flushing or corking a stream makes the sound server's clock jump now and then, and the sink's
-// clock then stands still for good. Every call may block as long as the sound server pleases; so it belongs
-// to a playing thread, which makes, uses and destroys it. The bus is silent once it is destroyed.
+// The GStreamer pipeline that plays one message at one device from one place on, once: the samples,
+// conversion to what the device wants, the device's own sink. It is never paused or sent elsewhere; for that
+// one makes another. Flushing or corking a stream makes the sound server's clock jump now and then, and the
+// sink's clock then stands still for good. Every call may block as long as the sound server pleases; so it
+// belongs to a playing thread, which makes, uses and destroys it. The bus is silent once it is destroyed.
 
+#include "platform/mediagraph/AppSource.h"
 #include "platform/mediagraph/GstRef.h"
 #include "platform/mediagraph/OutputDevice.h"
-#include "platform/mediagraph/SampleSource.h"
 #include "platform/mediagraph/Samples.h"
 
 #include <atomic>
@@ -33,7 +33,7 @@ public:
     // Begins to play; failures come as messages.
     void start();
     bool isPlaying();
-    // Seconds from the beginning of the message.
+    // Seconds from the beginning of the message; nothing before the sound begins.
     std::optional<double> position();
     // How far the samples were handed out for playing, in the same seconds.
     double handedOut() const;
@@ -47,10 +47,11 @@ public:
 
 private:
     GstElement* add(GstElement* element);
+    void addSource(std::shared_ptr<const Samples> samples, const OutputDevice& device);
 
     double m_from;
     double m_rate;
-    NextFrame m_next;
+    SharedProgress m_progress;
     std::atomic<bool> m_mayHaveMoved = true;
     std::function<void()> m_messageCame;
     GstRef<GstElement> m_pipeline;

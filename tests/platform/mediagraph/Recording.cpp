@@ -55,10 +55,17 @@ Recording::Recording(const std::string& sink, const std::string& file)
     EXPECT_TRUE(waitUntil([this] { return secondsSoFar() > 0; })) << "parec records nothing";
 }
 
+Recording::Recording(const std::vector<std::string>& command, const std::string& file, std::size_t headerSize)
+    : m_file(file), m_headerSize(headerSize), m_process(command) {
+    EXPECT_TRUE(waitUntil([this] { return secondsSoFar() > 0; })) << command.front() << " records nothing";
+}
+
 double Recording::secondsSoFar() const {
     std::error_code none;
     const auto size = std::filesystem::file_size(m_file, none);
-    return none ? 0 : static_cast<double>(size) / (2 * sizeof(std::int16_t) * kRate);
+    return none || size < m_headerSize
+               ? 0
+               : static_cast<double>(size - m_headerSize) / (2 * sizeof(std::int16_t) * kRate);
 }
 
 void Recording::finish(double seconds) {
@@ -66,9 +73,9 @@ void Recording::finish(double seconds) {
     EXPECT_TRUE(waitUntil([&] { return secondsSoFar() >= end || !m_process.isRunning(); }));
     m_process.end();
     const auto bytes = bytesOf(m_file);
-    m_heard.resize(bytes.size() / 4);
+    m_heard.resize((bytes.size() - m_headerSize) / 4);
     for (std::size_t i = 0; i < m_heard.size(); ++i)
-        std::memcpy(&m_heard[i], bytes.data() + 4 * i, sizeof(std::int16_t));
+        std::memcpy(&m_heard[i], bytes.data() + m_headerSize + 4 * i, sizeof(std::int16_t));
 }
 
 std::vector<Stretch> Recording::stretches(double pause) const {

@@ -25,8 +25,12 @@ class Recording {
 public:
     static constexpr int kRate = 48'000;
 
+    static constexpr std::size_t kWavHeader = 44;
+
     // Returns when the recording runs.
     Recording(const std::string& sink, const std::string& file);
+    // By another program, which writes the file itself, with so many bytes before the samples.
+    Recording(const std::vector<std::string>& command, const std::string& file, std::size_t headerSize);
 
     // Goes on for that much more of recorded time, then ends.
     void finish(double seconds = 0.4);
@@ -45,6 +49,7 @@ private:
     double secondsSoFar() const;
 
     std::string m_file;
+    std::size_t m_headerSize = 0;
     ChildProcess m_process;
     std::vector<std::int16_t> m_heard;
 };

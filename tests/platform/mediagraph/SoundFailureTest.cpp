@@ -11,18 +11,6 @@
 namespace mediagraph::testing {
 namespace {
 
-// The one error that reading the position gives, after which the graph answers that playing failed.
-std::int32_t toldFailure(FilgraphManager& graph) {
-    std::int32_t number = 0;
-    waitUntil([&] {
-        number = errorOf([&] { graph.CurrentPosition(); });
-        return number != 0;
-    });
-    EXPECT_EQ(errorOf([&] { graph.CurrentPosition(); }), 0) << "told twice";
-    EXPECT_EQ(endOf(graph), EventCode::ErrorAbort);
-    return number;
-}
-
 void expectPlays(SoundWorld& world, const std::string& device = "Default Audio Device") {
     const auto graph = world.connected(world.makeMessage(0.2), device);
     graph->Run();

@@ -2,11 +2,14 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "tests/platform/mediagraph/SoundWorld.h"
 
+#include "platform/mediagraph/Filgraph.h"
 #include "platform/mediagraph/MessageDecoder.h"
 #include "platform/share/LocalFileSystemObject.h"
 #include "tests/platform/mediagraph/WaitUntil.h"
 
 #include <gtest/gtest.h>
+
+#include <utility>
 
 namespace mediagraph::testing {
 namespace {
@@ -48,6 +51,11 @@ void SoundWorld::connect(FilgraphManager& graph, const std::string& file, const 
     source->Pins().Item(0)->Connect(*renderer->Pins().Item(0));
 }
 
+Graph SoundWorld::newGraph(DeviceList devices) {
+    return std::make_shared<Filgraph>(std::make_shared<GraphServices>(GraphServices{
+        std::move(devices), MessageReader(filesBelow(m_share.path()), m_waiting), Aside(m_waiting)}));
+}
+
 Graph SoundWorld::connected(const std::string& file, const std::string& device) {
     auto graph = m_sound->graphs().newFilgraphManager();
     connect(*graph, file, device);
@@ -64,6 +72,17 @@ std::optional<EventCode> endOf(FilgraphManager& graph, std::chrono::seconds limi
         },
         limit);
     return code;
+}
+
+std::int32_t toldFailure(FilgraphManager& graph) {
+    std::int32_t number = 0;
+    waitUntil([&] {
+        number = errorOf([&] { graph.CurrentPosition(); });
+        return number != 0;
+    });
+    EXPECT_EQ(errorOf([&] { graph.CurrentPosition(); }), 0) << "told twice";
+    EXPECT_EQ(endOf(graph), EventCode::ErrorAbort);
+    return number;
 }
 
 bool comesTo(FilgraphManager& graph, double seconds) {

@@ -4,6 +4,7 @@
 // A workstation with a sound server of its own and a share with messages on it, and graphs built as the
 // playback engine builds them: file source, renderer, connection.
 
+#include "platform/mediagraph/DeviceList.h"
 #include "platform/mediagraph/FilgraphManager.h"
 #include "platform/mediagraph/Samples.h"
 #include "platform/mediagraph/SoundSystem.h"
@@ -13,6 +14,7 @@
 #include "tests/platform/mediagraph/TestSounds.h"
 #include "tests/platform/share/TemporaryFolder.h"
 
+#include <cstdint>
 #include <memory>
 #include <optional>
 #include <string>
@@ -28,6 +30,8 @@ public:
     SoundServer server;
 
     SoundSystem& sound() { return *m_sound; }
+    // A graph of this world's messages that knows these devices instead of the workstation's.
+    Graph newGraph(DeviceList devices);
     // The file's name on this machine, and on the share.
     std::string pathOf(const std::string& file) const { return m_share.path(file); }
     static std::string nameOf(const std::string& file) { return R"(\\srv\Quillamar_0$\)" + file; }
@@ -55,6 +59,9 @@ std::shared_ptr<IRegFilterInfo> registered(FilgraphManager& graph, const std::st
 
 // How the graph ended, asked as the engine asks while it runs; nothing when it does not end in time.
 std::optional<EventCode> endOf(FilgraphManager& graph, std::chrono::seconds limit = std::chrono::seconds{20});
+
+// The one error that reading the position gives, after which the graph answers that playing failed.
+std::int32_t toldFailure(FilgraphManager& graph);
 
 // Whether the graph's position came to `seconds`.
 bool comesTo(FilgraphManager& graph, double seconds);
