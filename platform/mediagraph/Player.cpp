@@ -9,8 +9,8 @@
 namespace mediagraph {
 namespace {
 
-// How often the position is taken while the message plays.
-constexpr std::chrono::milliseconds kBeat{10};
+// How often the position is taken while the message plays: as often as the engine asks for it.
+constexpr std::chrono::milliseconds kBeat{25};
 // The end of a stream is the moment at which the sink believes the last sample to be heard. Its clock is an
 // estimate; closing the device right then has cut the last tenth of a second off.
 constexpr std::chrono::milliseconds kLinger{200};
