@@ -212,6 +212,18 @@ TEST(APlayingGraph, PlaysOnFromTheBeginningAfterItsEnd) {
     EXPECT_EQ(errorOf([&] { graph->WaitForCompletion(milliseconds{0}); }), basic::kMediaWrongState);
 }
 
+// The device is kept for a moment after the end: what is run meanwhile is a play of its own.
+TEST(APlayingGraph, EndsAgainWhenItIsRunAtItsEnd) {
+    SoundWorld world;
+    const auto graph = world.connected(world.makeMessage(0.3));
+    graph->Run();
+    EXPECT_EQ(endOf(*graph), EventCode::Complete);
+    graph->Stop();
+    graph->Run();
+    EXPECT_EQ(endOf(*graph, std::chrono::seconds{4}), EventCode::Complete);
+    EXPECT_EQ(graph->CurrentPosition(), graph->Duration());
+}
+
 TEST(APlayingGraph, LetsTheDeviceGoWhenItIsStoppedAndGoesOnWhereItWas) {
     SoundWorld world;
     const auto graph = world.connected(world.makeMessage(1));

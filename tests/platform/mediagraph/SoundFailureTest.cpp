@@ -116,6 +116,18 @@ TEST(UnpluggingTheDevice, EndsPlayingAlsoWhenItWasTheLastOne) {
     EXPECT_EQ(world.sound().waveOut().waveOutGetNumDevs(), 0U);
 }
 
+TEST(UnpluggingTheDevice, WhilePausedLetsThePlayGoOnAtTheNewDefault) {
+    SoundWorld world;
+    const auto graph = world.connected(world.makeMessage(0.8));
+    graph->Run();
+    ASSERT_TRUE(comesTo(*graph, 0.2));
+    graph->Pause();
+    ASSERT_TRUE(waitUntil([&] { return world.server.streamCount() == 0; }));
+    world.server.unplug("first");
+    graph->Run();
+    EXPECT_EQ(endOf(*graph), EventCode::Complete);
+}
+
 TEST(ChangingTheDefault, TakesWhatPlaysAlong) {
     SoundWorld world;
     const auto graph = world.connected(world.makeMessage(0.8));
