@@ -8,20 +8,22 @@
 namespace jet::test {
 namespace {
 
-constexpr int kRounds = 1000;
+constexpr int kUsualRounds = 2000;
 
 TEST(AppendWhileDeleting, LosesNoCallAndShowsNoWrongCount) {
+    const int rounds = roundsOr(kUsualRounds);
     SharedDatabase database(callLogDatabase(0));
     const std::string path(SharedDatabase::kPath);
     const AppendingServer server(
-        [&](const Allowance& allowance) { return appendCalls(database.files, path, kRounds, allowance); });
+        [&](const Allowance& allowance) { return appendCalls(database.files, path, rounds, allowance); });
+    const WatchingClient watcher(
+        [&](const auto& goesOn) { return watchCalls(database.files, path, goesOn); });
     Engine engine(database.files, Engine::sleepBriefly, patience());
-    const DeleteRounds rounds = deleteWhileAppending(engine, path, server);
-    EXPECT_EQ(rounds.lastNumber, kRounds + 1) << "every call has had its number";
-    EXPECT_GT(rounds.deletes, 0);
+    const DeleteRounds done = deleteWhileAppending(engine, path, server, watcher);
+    EXPECT_EQ(done.lastNumber, rounds + 1) << "every call has had its number";
+    EXPECT_GT(done.deletes, 0);
     EXPECT_TRUE(database.isSound());
-    std::cout << kRounds << " calls appended, " << rounds.deletes << " deletes, " << rounds.looks
-              << " looks\n";
+    std::cout << rounds << " calls appended, " << done.deletes << " deletes, " << done.looks << " looks\n";
 }
 
 } // namespace

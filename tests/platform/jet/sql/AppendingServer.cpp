@@ -6,12 +6,15 @@
 #include "platform/jet/CommitWordWriter.h"
 #include "platform/jet/SoleAccess.h"
 
+#include <fcntl.h>
 #include <sys/eventfd.h>
 #include <sys/prctl.h>
 #include <sys/wait.h>
 #include <unistd.h>
 
+#include <array>
 #include <csignal>
+#include <cstdlib>
 #include <iostream>
 #include <system_error>
 #include <vector>
@@ -44,13 +47,45 @@ private:
     std::int32_t m_last = 0;
 };
 
-constexpr std::uint64_t kCallsPerLook = 12;
-constexpr std::uint64_t kWithoutLimit = 1'000'000;
-
 // What a client may meet while another program keeps the database to itself, or writes all the time.
 bool meansBusy(const basic::RuntimeError& error) {
     return error.number() == basic::kFileAlreadyOpen || error.number() == basic::kProviderFailure;
 }
+
+// Counts between two readings. Unless somebody deleted meanwhile, the count lies between their sizes.
+class CountedReading {
+public:
+    bool see(Connection& connection, const std::string& database, Observer& observer) {
+        try {
+            connection.Open("Provider=Microsoft.Jet.OLEDB.4.0;Data Source=" + database);
+            const std::vector<std::int32_t> before = readNumbers(connection);
+            const auto counted =
+                std::get<std::int32_t>(connection.Execute("SELECT COUNT(*) FROM CallLog")->Field(0));
+            const std::vector<std::int32_t> after = readNumbers(connection);
+            observer.see(before);
+            observer.see(after);
+            if (!before.empty() && !after.empty() && before.front() == after.front())
+                expectBetween(before.size(), static_cast<std::size_t>(counted), after.size());
+            return true;
+        } catch (const basic::RuntimeError& error) {
+            EXPECT_TRUE(meansBusy(error)) << error.description();
+            return false;
+        }
+    }
+    int compared() const noexcept { return m_compared; }
+
+private:
+    void expectBetween(std::size_t least, std::size_t counted, std::size_t most) {
+        EXPECT_LE(least, counted);
+        EXPECT_LE(counted, most);
+        ++m_compared;
+    }
+
+    int m_compared = 0;
+};
+
+constexpr std::uint64_t kCallsPerLook = 12;
+constexpr std::uint64_t kWithoutLimit = 1'000'000;
 
 // False when the database could not be read for the moment.
 bool see(Connection& connection, const std::string& database, Observer& observer) {
@@ -79,6 +114,11 @@ bool deleteAll(Connection& connection) {
 }
 
 } // namespace
+
+int roundsOr(int usual) {
+    const char* wanted = std::getenv("QM_ROUNDS");
+    return wanted == nullptr ? usual : std::stoi(wanted);
+}
 
 SharingWait patience() {
     return {.tries = 5000, .sleep = [](std::chrono::milliseconds time) { SharingWait::sleepFor(time / 50); }};
@@ -143,12 +183,62 @@ bool AppendingServer::hasEnded() const {
     return m_hasEnded;
 }
 
-DeleteRounds deleteWhileAppending(Engine& engine, const std::string& database,
-                                  const AppendingServer& server) {
+WatchingClient::WatchingClient(const std::function<int(const std::function<bool()>&)>& work) {
+    std::array<int, 2> ends{};
+    if (::pipe2(ends.data(), O_CLOEXEC) != 0)
+        throw std::system_error(errno, std::generic_category(), "pipe");
+    m_child = ::fork();
+    if (m_child == 0) {
+        ::prctl(PR_SET_PDEATHSIG, SIGKILL);
+        ::close(ends[1]);
+        ::_exit(work([&] {
+            char request = 0;
+            return ::read(ends[0], &request, 1) == 1;
+        }));
+    }
+    ::close(ends[0]);
+    m_requests = ends[1];
+}
+
+WatchingClient::~WatchingClient() {
+    ::close(m_requests);
+    int status = -1;
+    ::waitpid(m_child, &status, 0);
+    EXPECT_EQ(status, 0) << "what the watching client saw";
+}
+
+void WatchingClient::look() const {
+    EXPECT_EQ(::write(m_requests, "l", 1), 1);
+}
+
+int watchCalls(share::FileSystemObject& files, const std::string& database,
+               const std::function<bool()>& goesOn) {
+    try {
+        Engine engine(files);
+        Observer observer;
+        CountedReading reading;
+        int looks = 0;
+        while (goesOn()) {
+            Connection connection(engine);
+            looks += reading.see(connection, database, observer) ? 1 : 0;
+        }
+        std::cout << "another client: " << looks << " looks, " << reading.compared()
+                  << " counts between two of them\n"
+                  << std::flush;
+        return ::testing::Test::HasFailure() || reading.compared() == 0 ? 1 : 0;
+    } catch (const std::exception& error) {
+        std::cerr << error.what() << "\n";
+        return 1;
+    }
+}
+
+DeleteRounds deleteWhileAppending(Engine& engine, const std::string& database, const AppendingServer& server,
+                                  const WatchingClient& watcher) {
     DeleteRounds rounds;
     Observer observer;
     while (!server.hasEnded()) {
         server.allow(kCallsPerLook);
+        watcher.look();
         Connection connection(engine);
         if (!see(connection, database, observer))
             continue;

@@ -1,9 +1,10 @@
 // SPDX-FileCopyrightText: 2026 The qmClient authors
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
-// A process that appends calls as the server does while this one deletes them, and what must hold meanwhile:
-// each delete takes the calls that are there, so what is left at any time is one run of numbers without a gap
-// that ends with the newest. A lost call would be a gap, one that came back a step backwards.
+// A process that appends calls as the server does while this one deletes them and a third one reads, and what
+// must hold meanwhile: each delete takes the calls that are there, so what is left at any time is one run of
+// numbers without a gap that ends with the newest. A lost call would be a gap, one that came back a step
+// backwards.
 
 #include "platform/jet/Connection.h"
 #include "tests/platform/jet/EmptyingScenario.h"
@@ -17,6 +18,9 @@
 #include <string>
 
 namespace jet::test {
+
+// How many calls are appended: so many, or what the environment variable QM_ROUNDS says, for a long run.
+int roundsOr(int usual);
 
 // Waits as long as it takes, in short steps.
 SharingWait patience();
@@ -60,12 +64,34 @@ private:
     mutable bool m_hasEnded = false;
 };
 
+// Another client, in a process of its own: it looks as often as it was asked to.
+class WatchingClient {
+public:
+    // Runs `work` there; it ends with the answer as exit code.
+    explicit WatchingClient(const std::function<int(const std::function<bool()>& goesOn)>& work);
+    // Waits until it has looked as often as it was asked to.
+    ~WatchingClient();
+    WatchingClient(const WatchingClient&) = delete;
+    WatchingClient& operator=(const WatchingClient&) = delete;
+
+    void look() const;
+
+private:
+    int m_requests = -1; // the pipe's end to write to
+    pid_t m_child = -1;
+};
+
+// Reads all numbers, counts, and reads them again, as long as it goes on; the exit code of a process.
+int watchCalls(share::FileSystemObject& files, const std::string& database,
+               const std::function<bool()>& goesOn);
+
 struct DeleteRounds {
     int deletes = 0;
     int looks = 0;
     std::int32_t lastNumber = 0; // of a call appended after the server's last one
 };
 
-DeleteRounds deleteWhileAppending(Engine& engine, const std::string& database, const AppendingServer& server);
+DeleteRounds deleteWhileAppending(Engine& engine, const std::string& database, const AppendingServer& server,
+                                  const WatchingClient& watcher);
 
 } // namespace jet::test

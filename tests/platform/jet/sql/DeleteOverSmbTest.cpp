@@ -15,7 +15,7 @@ using share::testing::SmbClient;
 using ::testing::HasSubstr;
 
 constexpr int kCalls = 30;
-constexpr int kRounds = 400;
+constexpr int kUsualRounds = 1000;
 constexpr std::string_view kDelete = "DELETE FROM CallLog";
 
 const std::string kDatabase = share::testing::onShare("MBX\\7\\qmLog.mdb");
@@ -107,17 +107,22 @@ TEST_F(DeleteOverSmb, WaitsForSomebodyWhoHasTheFileAloneForHalfASecond) {
 
 // The server's program and the client, each with a connection of its own to the same smbd.
 TEST_F(DeleteOverSmb, LosesNoCallThatIsAppendedMeanwhile) {
+    const int appended = roundsOr(kUsualRounds);
     setBytes(callLogDatabase(0));
     const AppendingServer server([&](const Allowance& allowance) {
         SmbClient client(m_samba.port());
-        return appendCalls(client.files(), kDatabase, kRounds, allowance);
+        return appendCalls(client.files(), kDatabase, appended, allowance);
+    });
+    const WatchingClient watcher([&](const auto& goesOn) {
+        SmbClient client(m_samba.port());
+        return watchCalls(client.files(), kDatabase, goesOn);
     });
     Engine engine(m_client.files(), Engine::sleepBriefly, patience());
-    const DeleteRounds rounds = deleteWhileAppending(engine, kDatabase, server);
-    EXPECT_EQ(rounds.lastNumber, kRounds + 1) << "every call has had its number";
+    const DeleteRounds rounds = deleteWhileAppending(engine, kDatabase, server, watcher);
+    EXPECT_EQ(rounds.lastNumber, appended + 1) << "every call has had its number";
     EXPECT_GT(rounds.deletes, 0);
     EXPECT_NO_THROW(checkDatabase(*share::LocalFile::open(place(), share::OpenMode::Read)));
-    std::cout << kRounds << " calls appended over SMB, " << rounds.deletes << " deletes, " << rounds.looks
+    std::cout << appended << " calls appended over SMB, " << rounds.deletes << " deletes, " << rounds.looks
               << " looks\n";
 }
 
