@@ -35,9 +35,16 @@ protected:
                        if (onStop)
                            onStop();
                    },
-                   [this](std::int32_t milliseconds) { pauses.push_back(milliseconds); }})(proc);
+                   [this](std::int32_t milliseconds) {
+                       pauses.push_back(milliseconds);
+                       if (onPause)
+                           onPause();
+                   }})(proc);
     }
 
+    static void post(std::function<void()> work) {
+        QMetaObject::invokeMethod(qApp, std::move(work), Qt::QueuedConnection);
+    }
     std::size_t callsIn(int id) {
         const auto connection = common.GetMBXCon(id, *window->state().config);
         return static_cast<std::size_t>(
@@ -59,6 +66,7 @@ protected:
     data::PreparedAnswers reporter;
     int stops = 0;
     std::function<void()> onStop;
+    std::function<void()> onPause;
     std::vector<std::int32_t> pauses;
 };
 
@@ -119,6 +127,19 @@ TEST_F(DeleteAllTest, SingleMailboxKeepsItsMessageFiles) {
     EXPECT_TRUE(std::filesystem::exists(message));
 }
 
+TEST_F(DeleteAllTest, WithoutASelectedTabTheFirstMailboxIsEmptiedAndKeepsItsMessageFiles) {
+    loadTwoMailboxes();
+    const std::string message = makeSound(12, "C1.wav");
+    const std::string other = makeSound(15, "C1.wav");
+    tabStrip().SetSelectedItem(0);
+    run();
+    EXPECT_EQ(callsIn(12), 0U);
+    EXPECT_EQ(callsIn(15), 3U);
+    EXPECT_TRUE(std::filesystem::exists(message));
+    EXPECT_TRUE(std::filesystem::exists(other));
+    EXPECT_TRUE(reporter.reports.empty());
+}
+
 TEST_F(DeleteAllTest, RowsGoEvenWhenAMessageFileCannotAndNothingIsReported) {
     loadTwoMailboxes();
     const std::string kept = makeSound(12, "C1.wav");
@@ -154,6 +175,20 @@ TEST_F(DeleteAllTest, PausesThenReloadsTheList) {
     ASSERT_EQ(column(0).size(), 3U);
     run();
     EXPECT_EQ(pauses, std::vector<std::int32_t>{500});
+    EXPECT_TRUE(column(0).empty());
+}
+
+TEST_F(DeleteAllTest, PendingEventsRunBeforeThePauseAndBetweenItAndTheReload) {
+    loadTwoMailboxes();
+    bool hasRunBefore = false;
+    std::optional<std::size_t> listedAfter;
+    onStop = [&] { post([&] { hasRunBefore = true; }); };
+    onPause = [&] {
+        EXPECT_TRUE(hasRunBefore);
+        post([&] { listedAfter = column(0).size(); });
+    };
+    run();
+    EXPECT_EQ(listedAfter, 3U);
     EXPECT_TRUE(column(0).empty());
 }
 
