@@ -178,6 +178,24 @@ TEST_F(frmCallDetailsTest, DetailsMayBeOfAnyLength) {
     EXPECT_EQ(shownText, QString::fromStdString(text).replace(u"\r\n"_qs, u"\n"_qs));
 }
 
+TEST_F(frmCallDetailsTest, LongTextsNeverWidenIt) {
+    world.open();
+    const int width = world.dialog->minimumSizeHint().width();
+    show({.callID = "C1", .callerName = std::string(50, 'W'), .callerID = std::string(50, '5')});
+    EXPECT_EQ(world.dialog->minimumSizeHint().width(), width);
+}
+
+// Between two calls the dialog shows that there is none; nothing may jump then.
+TEST_F(frmCallDetailsTest, KeepsItsSizeAndItsButtonsWhereTheyAreWhenItIsEmpty) {
+    show({.callID = "C1"});
+    world.dialog->show();
+    const QSize least = world.dialog->minimumSizeHint();
+    const QPoint close = world.control<QPushButton>("Command1").pos();
+    world.announce("unknown");
+    EXPECT_EQ(world.dialog->minimumSizeHint(), least);
+    EXPECT_EQ(world.control<QPushButton>("Command1").pos(), close);
+}
+
 TEST_F(frmCallDetailsTest, DetailsCannotBeEdited) {
     show({.callID = "A7"});
     EXPECT_TRUE(world.control<QPlainTextEdit>("txtDetails").isReadOnly());
