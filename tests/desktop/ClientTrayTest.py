@@ -1,11 +1,11 @@
 # SPDX-FileCopyrightText: 2026 The qmClient authors
 # SPDX-License-Identifier: GPL-3.0-or-later
-"""The real client in a panel of the StatusNotifier kind, whose menu can be used while a dialog is up."""
+"""The real client's icon in panels of both kinds, what its clicks do, and that it returns with its panel."""
 import sys
 import unittest
 
 sys.dont_write_bytecode = True
-from client import TITLE, Client  # noqa: E402
+from client import CLOSE, TITLE, Client  # noqa: E402
 from scene import FIRST, SceneTest  # noqa: E402
 
 OPTIONS = '^Options$'
@@ -13,8 +13,54 @@ QUESTION = '^Delete All Items$'
 ABOUT = '^About Quillamar Client$'
 
 
+class EmbeddedTest(SceneTest):
+    def test_only_a_double_click_shows_the_window(self):
+        client = self.start({FIRST: 3})
+        x, y = client.wait_docked().center
+        before = self.desktop.windows.activations()
+        self.desktop.click(x + 5, y, button=2)
+        self.desktop.click(x - 5, y)
+        self.add_calls(FIRST, 1)
+        client.wait_popup(1)  # what the clicks led to would have come before
+        self.assertIsNone(client.window())
+        self.assertEqual(self.desktop.windows.activations(), before)
+        self.desktop.click(x + 5, y, double=True)
+        self.desktop.wait_active(TITLE)
+        client.wait_rows(4)
+
+    def test_returns_when_its_panel_is_started_again(self):
+        client = self.start({FIRST: 3})
+        for _ in range(2):
+            self.desktop.tray.stop()
+            self.desktop.tray.start('trayer')
+            client.wait_docked()
+        client.open()
+        client.wait_rows(3)
+        client.hide()
+        client.choose(CLOSE)
+        self.assertEqual(client.process.wait(15), 0)
+        self.assertEqual(client.process.errors(), '')
+
+    def test_goes_over_to_a_panel_of_the_other_kind(self):
+        client = self.start({FIRST: 3})
+        self.desktop.tray.stop()
+        self.desktop.tray.start('sni')
+        self.desktop.wait_for(self.desktop.tray.icons, 'the item to be registered', 30)
+        self.desktop.tray.notifier.ask('activate')
+        self.desktop.wait_active(TITLE, 15)
+        client.wait_rows(3)
+
+
 class NotifierTest(SceneTest):
     tray = 'sni'
+
+    def test_returns_when_its_panel_is_started_again(self):
+        self.start_listed()
+        for _ in range(2):
+            self.desktop.tray.stop()
+            self.desktop.tray.start('sni')
+            self.desktop.wait_for(self.desktop.tray.icons, 'the item to be registered', 30)
+        self.open_list()
 
     def start_listed(self):
         self.add_calls(FIRST, 3)

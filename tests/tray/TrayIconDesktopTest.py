@@ -84,6 +84,18 @@ class EmbeddingTest(unittest.TestCase):
             program.wait_line('MenuClick 1 config')
             wait_until(lambda: not menu_window(desktop, program), 'the end of the menu')
 
+    def test_the_menu_opens_where_the_mouse_is(self):
+        # At either edge it has room on one side only.
+        for edge in ('bottom', 'top'):
+            with self.subTest(edge), Desktop() as desktop:
+                desktop.tray.start('trayer', edge=edge)
+                program = TrayProgram(desktop)
+                x, y = icon_center(desktop)
+                desktop.click(x, y, button=3)
+                menu = wait_until(lambda: menu_window(desktop, program), 'the menu')
+                self.assertLessEqual(min(abs(x - menu.x), abs(x - menu.x - menu.width)), 2)
+                self.assertLessEqual(min(abs(y - menu.y), abs(y - menu.y - menu.height)), 2)
+
     def test_the_menu_closes_on_escape_and_on_a_click_elsewhere(self):
         with Desktop(tray='trayer') as desktop:
             program = TrayProgram(desktop)
