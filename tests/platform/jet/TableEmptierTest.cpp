@@ -5,6 +5,7 @@
 #include "platform/basic/RuntimeError.h"
 #include "platform/jet/ByteEditor.h"
 #include "platform/jet/Catalog.h"
+#include "platform/jet/DataPageAppend.h"
 #include "platform/jet/PageReader.h"
 #include "platform/jet/TableDefinitionReader.h"
 #include "platform/jet/TableWriter.h"
@@ -131,6 +132,80 @@ TEST(TableEmptier, SeesThatThereIsNothingToDo) {
     EXPECT_FALSE(TableEmptier(file, kLog).isDone());
 }
 
+// A table without rows in which something is left over: from a delete that did not come to its end, or from
+// another program.
+class LeftOver : public ::testing::Test {
+protected:
+    LeftOver() { emptyLog(m_file); }
+
+    // A page that is nobody's, listed in a map.
+    void list(RowPointer map) {
+        WriteCache cache(m_file);
+        PageAllocator allocator(cache);
+        const PageNumber page = allocator.allocate();
+        initialiseDataPage(cache.edit(page, WriteStage::NewPage), definitionPageOf(m_file, kLog));
+        UsageMapWriter(cache, allocator, map).add(page);
+        cache.flush();
+    }
+    void put(PageNumber page, std::size_t offset, std::uint8_t value) {
+        FileImage image = m_file.bytes();
+        ByteEditor(image).put8(page * format::page::kSize + offset, value);
+        m_file.write(0, image);
+    }
+    void expectCompleted() {
+        EXPECT_FALSE(TableEmptier(m_file, kLog).isDone());
+        emptyLog(m_file);
+        EXPECT_TRUE(TableEmptier(m_file, kLog).isDone());
+        EXPECT_NO_THROW(checkDatabase(m_file));
+        EXPECT_EQ(storedCount(m_file, kLog), 0U);
+        addCall(m_file, "K1", 5000);
+        EXPECT_EQ(readRows(m_file, kLog).size(), 1U);
+        EXPECT_NO_THROW(checkDatabase(m_file));
+    }
+    TableDefinition log() { return definitionOf(m_file, kLog); }
+
+    share::MemoryFile m_file{callLogDatabase(5)};
+};
+
+TEST_F(LeftOver, CountIsCorrectedByTheNextDelete) {
+    put(log().page(), format::definition::kRowCount, 3);
+    expectCompleted();
+}
+
+TEST_F(LeftOver, DataPageIsFreedByTheNextDelete) {
+    list(log().ownedMap);
+    expectCompleted();
+}
+
+TEST_F(LeftOver, LongValuePageIsFreedByTheNextDelete) {
+    list(log().longValueMaps.front().owned);
+    expectCompleted();
+}
+
+TEST_F(LeftOver, IndexPageIsFreedByTheNextDelete) {
+    list(log().realIndexes.front().usageMap);
+    expectCompleted();
+}
+
+TEST_F(LeftOver, IndexEntryIsTakenOutByTheNextDelete) {
+    put(log().realIndexes.front().root, format::indexPage::kEntryEnds + 2, 1);
+    expectCompleted();
+}
+
+TEST_F(LeftOver, RootOfAnotherTableIsReplacedByTheNextDelete) {
+    put(log().realIndexes.front().root, format::page::kOwner, 3);
+    expectCompleted();
+}
+
+TEST_F(LeftOver, RootThatItsMapDoesNotListIsReplacedByTheNextDelete) {
+    const RealIndex index = log().realIndexes.front();
+    WriteCache cache(m_file);
+    PageAllocator allocator(cache);
+    UsageMapWriter(cache, allocator, index.usageMap).remove(index.root);
+    cache.flush();
+    expectCompleted();
+}
+
 TEST(TableEmptier, RefusesTheParentOfARelationship) {
     share::MemoryFile file(callLogDatabase(5));
     const TableDefinition log = definitionOf(file, kLog);
@@ -155,6 +230,14 @@ TEST(TableEmptier, RefusesSystemTablesAndUnknownOnes) {
     EXPECT_EQ(errorNumberOf([&] { TableEmptier(file, "Nothing"); }), basic::kProviderNoTable);
 }
 
+TEST(TableEmptier, RefusesAnEncodedDatabase) {
+    FileImage image = callLogDatabase(1);
+    image[format::header::kDatabaseKey] ^= std::byte{1}; // of what is masked there
+    share::MemoryFile file(image);
+    EXPECT_EQ(errorNumberOf([&] { TableEmptier(file, kLog); }), basic::kProviderReadOnly);
+    EXPECT_EQ(file.bytes(), image);
+}
+
 class RefusedCommitWord : public testing::TestWithParam<std::uint8_t> {};
 
 TEST_P(RefusedCommitWord, KeepsTheDatabaseAsItIs) {
@@ -168,19 +251,52 @@ TEST_P(RefusedCommitWord, KeepsTheDatabaseAsItIs) {
 INSTANTIATE_TEST_SUITE_P(Words, RefusedCommitWord,
                          testing::Values(format::commitWords::kWriting, format::commitWords::kDamaged));
 
-// Another table's page in our list, or one of our pages marked free: freeing would give it two users.
-TEST(TableEmptier, RefusesPagesThatAreNotTheTablesAlone) {
-    share::MemoryFile file(callLogDatabase(5));
-    const TableDefinition info = definitionOf(file, "MailboxInfo");
-    PageReader pages(file, 0);
-    const PageNumber foreign = UsageMap::read(pages, info.ownedMap).pages().front();
-    WriteCache cache(file);
-    PageAllocator allocator(cache);
-    UsageMapWriter(cache, allocator, definitionOf(file, kLog).ownedMap).add(foreign);
-    cache.flush();
-    const FileImage before = file.bytes();
-    EXPECT_EQ(errorNumberOf([&] { TableEmptier(file, kLog); }), basic::kProviderFailure);
-    EXPECT_EQ(file.bytes(), before);
+// Freeing pages of such a list would give one of them two users.
+class DamagedTable : public ::testing::Test {
+protected:
+    PageNumber firstPageOf(RowPointer map) {
+        PageReader pages(m_file, 0);
+        return UsageMap::read(pages, map).pages().front();
+    }
+    void listAsData(PageNumber page) {
+        WriteCache cache(m_file);
+        PageAllocator allocator(cache);
+        UsageMapWriter(cache, allocator, m_log.ownedMap).add(page);
+        cache.flush();
+    }
+    void markFree(PageNumber page) {
+        WriteCache cache(m_file);
+        PageAllocator(cache).release(page);
+        cache.flush();
+    }
+    void expectRefused() {
+        const FileImage before = m_file.bytes();
+        EXPECT_EQ(errorNumberOf([&] { TableEmptier(m_file, kLog); }), basic::kProviderFailure);
+        EXPECT_EQ(m_file.bytes(), before);
+    }
+
+    share::MemoryFile m_file{callLogDatabase(5)};
+    TableDefinition m_log = definitionOf(m_file, kLog);
+};
+
+TEST_F(DamagedTable, IsRefusedWhenItListsAPageOfAnotherTable) {
+    listAsData(firstPageOf(definitionOf(m_file, "MailboxInfo").ownedMap));
+    expectRefused();
+}
+
+TEST_F(DamagedTable, IsRefusedWhenItListsItsOwnDefinition) {
+    listAsData(m_log.page());
+    expectRefused();
+}
+
+TEST_F(DamagedTable, IsRefusedWhenItListsAPageTwice) {
+    listAsData(m_log.realIndexes.front().root);
+    expectRefused();
+}
+
+TEST_F(DamagedTable, IsRefusedWhenItsPageIsMarkedFree) {
+    markFree(firstPageOf(m_log.ownedMap));
+    expectRefused();
 }
 
 TEST(TableEmptier, RefusesToTakeAPageThatIsWronglyMarkedFree) {
