@@ -21,6 +21,8 @@ struct FeedingProgress {
     std::atomic<std::size_t> handedOut;
     // The stream's time at which the first frame plays; GST_CLOCK_TIME_NONE while that is not known.
     std::atomic<GstClockTime> begin = 0;
+    // The sink throws away what it is given.
+    std::atomic<bool> isDropped = false;
 };
 using SharedProgress = std::shared_ptr<FeedingProgress>;
 using SharedSamples = std::shared_ptr<const Samples>;

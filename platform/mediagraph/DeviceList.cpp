@@ -8,8 +8,6 @@
 
 #include <algorithm>
 #include <charconv>
-#include <cstdlib>
-#include <filesystem>
 #include <fstream>
 #include <iterator>
 
@@ -56,11 +54,6 @@ std::string contentOf(const char* path) {
     return {std::istreambuf_iterator<char>(file), {}};
 }
 
-std::string pipeWireSocket() {
-    const char* folder = std::getenv("XDG_RUNTIME_DIR"); // NOLINT(concurrency-mt-unsafe): nobody sets it
-    return folder == nullptr ? std::string() : std::string(folder).append("/pipewire-0");
-}
-
 std::string_view trimmed(std::string_view text) {
     while (!text.empty() && text.front() == ' ')
         text.remove_prefix(1);
@@ -103,9 +96,8 @@ std::optional<std::vector<OutputDevice>> DeviceList::fromPulse() {
     return devices;
 }
 
-std::optional<std::vector<OutputDevice>> DeviceList::fromPipeWire(const std::string& socketPath) {
-    std::error_code ignored;
-    if (!std::filesystem::is_socket(socketPath, ignored))
+std::optional<std::vector<OutputDevice>> DeviceList::fromPipeWire(const PipeWireSocket& socket) {
+    if (!socket.answers())
         return std::nullopt;
     return Devices{defaultOf("pipewiresink")};
 }
@@ -124,7 +116,7 @@ std::optional<std::vector<OutputDevice>> DeviceList::fromSoundCards(std::string_
 }
 
 DeviceList DeviceList::ofWorkstation() {
-    return DeviceList({fromPulse, [] { return fromPipeWire(pipeWireSocket()); },
+    return DeviceList({fromPulse, [] { return fromPipeWire(PipeWireSocket::ofUser()); },
                        [] { return fromSoundCards(contentOf("/proc/asound/pcm")); }});
 }
 

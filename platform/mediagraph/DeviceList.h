@@ -7,6 +7,7 @@
 // one at a time.
 
 #include "platform/mediagraph/OutputDevice.h"
+#include "platform/mediagraph/PipeWireSocket.h"
 
 #include <functional>
 #include <optional>
@@ -33,7 +34,7 @@ public:
     std::vector<OutputDevice> look() const;
 
     static std::optional<std::vector<OutputDevice>> fromPulse();
-    static std::optional<std::vector<OutputDevice>> fromPipeWire(const std::string& socketPath);
+    static std::optional<std::vector<OutputDevice>> fromPipeWire(const PipeWireSocket& socket);
     // `text` is that of /proc/asound/pcm, one line for each device of a sound card.
     static std::optional<std::vector<OutputDevice>> fromSoundCards(std::string_view text);
 

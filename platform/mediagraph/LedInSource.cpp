@@ -16,6 +16,8 @@ constexpr std::size_t kPiecesPerSecond = 10;
 constexpr std::size_t kSilencesPerSecond = 100;
 // How much of the sound lies ready for the next cycles. The sink holds no more than eight pieces.
 constexpr GstClockTime kAhead = 200 * GST_MSECOND;
+// A piece or two are on their way to the sink; more were thrown away by it.
+constexpr std::size_t kUnread = 2;
 
 std::size_t framesOf(const Samples& samples, std::size_t piecesPerSecond) {
     return std::max<std::size_t>(samples.rate / piecesPerSecond, 1);
@@ -58,6 +60,7 @@ private:
 
     void pushSound(GstAppSrc* source) {
         m_progress->begin = m_silenceEnd;
+        m_progress->isDropped = m_next - m_progress->handedOut > kUnread * m_piece;
         const std::size_t frames = std::min(m_piece, m_samples->frames() - m_next);
         const std::size_t at = std::exchange(m_next, m_next + frames);
         push(source,

@@ -3,7 +3,8 @@
 #pragma once
 // The source for PipeWire's own sink, which throws away what it is given before its stream runs, and whose
 // clock is not the device's: silence is handed out until the sink reads a piece of it, and only then the
-// message, a little ahead of its time. What counts as handed out was read by the sink.
+// message, a little ahead of its time. What counts as handed out was read by the sink; it also
+// throws away what comes when it has lost its device.
 
 #include "platform/mediagraph/AppSource.h"
 

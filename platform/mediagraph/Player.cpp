@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "platform/mediagraph/Player.h"
 
+#include "platform/mediagraph/PipeWireSocket.h"
 #include "platform/mediagraph/PulseServer.h"
 
 #include <utility>
@@ -81,7 +82,10 @@ void Player::look(const PlayOrder& order) {
         m_task.desk->moved(order, *position);
         watchMovement(*position);
     }
-    watchDevice(order);
+    if (m_pipeline->isDropping())
+        loseDevice(order);
+    else
+        watchDevice(order);
 }
 
 void Player::watchMovement(double position) {
@@ -106,6 +110,14 @@ void Player::watchDevice(const PlayOrder& order) {
         m_pipeline.reset();
     }
     m_playsAt = std::move(now);
+}
+
+// PipeWire's own sink tells nothing of it.
+void Player::loseDevice(const PlayOrder& order) {
+    if (!PipeWireSocket::ofUser().answers())
+        throw basic::RuntimeError(basic::kMediaNoHardware, "The sound server went away.");
+    m_task.desk->ended(order, EventCode::UserAbort);
+    m_pipeline.reset();
 }
 
 // Silent from here on: the place is kept to the sample.

@@ -32,6 +32,7 @@ private:
     void look(const PlayOrder& order);
     void watchMovement(double position);
     void watchDevice(const PlayOrder& order);
+    void loseDevice(const PlayOrder& order);
     void rest(const PlayOrder& order);
     void reportError(const PlayOrder& order, GstMessage* message);
     bool isDeviceGone() const;

@@ -26,6 +26,13 @@ bool hasProperty(GstElement* element, const char* name) {
     return g_object_class_find_property(G_OBJECT_GET_CLASS(element), name) != nullptr;
 }
 
+// What plays is not to go on aloud at another device.
+void stayAtDevice(GstElement* pipeWireSink) {
+    const GstRef<GstStructure> properties(
+        gst_structure_new("properties", "node.dont-reconnect", G_TYPE_STRING, "true", nullptr));
+    g_object_set(pipeWireSink, "stream-properties", properties.get(), nullptr);
+}
+
 GstElement* newSink(const OutputDevice& device) {
     GstElement* sink = newElement(device.element);
     const char* property = hasProperty(sink, "device") ? "device" : "target-object";
@@ -33,6 +40,8 @@ GstElement* newSink(const OutputDevice& device) {
         g_object_set(sink, property, device.address.c_str(), nullptr);
     if (device.element == "pulsesink")
         g_object_set(sink, "latency-time", kPieceMicroseconds, nullptr);
+    if (device.element == "pipewiresink")
+        stayAtDevice(sink);
     return sink;
 }
 

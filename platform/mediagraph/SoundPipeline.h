@@ -37,6 +37,8 @@ public:
     std::optional<double> position();
     // How far the samples were handed out for playing, in the same seconds.
     double handedOut() const;
+    // Whether the sink throws away what it is given: it has lost its device, or the server.
+    bool isDropping() const { return m_progress->isDropped; }
     // The next message, if there is one.
     GstRef<GstMessage> message();
     // Whether the sink may play somewhere else than at the last question; true at first.

@@ -78,7 +78,7 @@ TEST(DeviceList, HasNoSoundCardsInATextWithoutAny) {
 }
 
 TEST(DeviceList, HasNoPipeWireWithoutItsSocket) {
-    EXPECT_FALSE(DeviceList::fromPipeWire("/nowhere/pipewire-0"));
+    EXPECT_FALSE(DeviceList::fromPipeWire(PipeWireSocket("/nowhere/pipewire-0")));
 }
 
 TEST(ListedWaveOut, AnswersNamesInDeviceOrder) {

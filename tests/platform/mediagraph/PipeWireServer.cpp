@@ -73,6 +73,10 @@ void PipeWireServer::startManager() {
     record("first");
 }
 
+void PipeWireServer::unplug(const std::string& sink) {
+    EXPECT_EQ(ChildProcess({"pw-cli", "destroy", sink}).result(), 0) << sink;
+}
+
 std::unique_ptr<Recording> PipeWireServer::record(const std::string& sink) {
     const std::string file = m_folder.path("heard" + std::to_string(++m_recordings) + ".wav");
     return std::make_unique<Recording>(

@@ -23,6 +23,9 @@ public:
     void startManager();
     void kill() { m_server->end(9); }
 
+    // Takes a sink away, as an unplugged device is.
+    static void unplug(const std::string& sink);
+
     // What the sink plays from now on.
     std::unique_ptr<Recording> record(const std::string& sink);
 

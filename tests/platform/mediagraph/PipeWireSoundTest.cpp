@@ -77,14 +77,28 @@ TEST(PlayingAtPipeWire, SaysThatTheSoundDidNotStartAndPlaysWhenItCan) {
     EXPECT_EQ(endOf(*graph), EventCode::Complete);
 }
 
+// Not at another device, aloud; where it is the last one, not in silence.
+TEST(PlayingAtPipeWire, EndsAsAQuietStopWhenItsDeviceIsUnplugged) {
+    PipeWireWorld world;
+    for (const char* sink : {"first", "second"}) {
+        const auto graph = world.connected(world.makeMessage(5));
+        graph->Run();
+        ASSERT_TRUE(comesTo(*graph, 0.2));
+        PipeWireServer::unplug(sink);
+        EXPECT_EQ(endOf(*graph), EventCode::UserAbort);
+        EXPECT_EQ(errorOf([&] { graph->CurrentPosition(); }), 0);
+    }
+}
+
 TEST(PlayingAtPipeWire, IsToldOnceWhenItIsKilled) {
     PipeWireWorld world;
     const auto graph = world.connected(world.makeMessage(5));
     graph->Run();
     ASSERT_TRUE(comesTo(*graph, 0.2));
     world.pipeWire.kill();
-    toldFailure(*graph);
+    EXPECT_EQ(toldFailure(*graph), basic::kMediaNoHardware);
     EXPECT_GE(graph->CurrentPosition(), 0.2);
+    EXPECT_EQ(world.sound().waveOut().waveOutGetNumDevs(), 0U); // though its socket is still there
 }
 
 } // namespace
