@@ -76,6 +76,15 @@ TEST_F(WaveTest, TickAfterTheEndDoesNothing) {
     EXPECT_THAT(progress, IsEmpty());
 }
 
+TEST_F(WaveTest, TickAfterAPlayThatFailedDoesNothing) {
+    EXPECT_FALSE(wave->PlayWave(""));
+    EXPECT_TRUE(wave->IsPlaying());
+    sound.takeLog();
+    tick();
+    EXPECT_THAT(sound.takeLog(), IsEmpty());
+    EXPECT_THAT(progress, IsEmpty());
+}
+
 TEST_F(WaveTest, TickOfAGraphThatNoPlayStartedTellsNothing) {
     play();
     wave->SetIsPlaying(false);
