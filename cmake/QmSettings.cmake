@@ -15,6 +15,12 @@ if(CCACHE_PROGRAM AND NOT CMAKE_CXX_COMPILER_LAUNCHER)
   set(CMAKE_CXX_COMPILER_LAUNCHER ${CCACHE_PROGRAM})
 endif()
 
+# It links a test program three times as fast as the compilers' usual linker.
+find_program(LLD_PROGRAM ld.lld)
+if(LLD_PROGRAM)
+  add_link_options(-fuse-ld=lld)
+endif()
+
 # On in every preset. Off for whoever builds the program without one: another compiler's false alarm must not
 # stop them.
 option(QM_WARNINGS_AS_ERRORS "Stop at a compiler's warning" OFF)
