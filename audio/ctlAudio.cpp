@@ -157,8 +157,8 @@ void ctlAudio::WaveObject_Progress(basic::Currency Percent, basic::Currency Dura
 
 // Only whole percents are told: who listens to each of forty a second hears nothing else.
 void ctlAudio::tellPosition(basic::Currency before) {
-    constexpr std::int64_t kPercent = 100;
-    if (before.tenThousandths / kPercent != m_Percent.tenThousandths / kPercent)
+    constexpr std::int64_t kOnePercent = 100;
+    if (before.tenThousandths / kOnePercent != m_Percent.tenThousandths / kOnePercent)
         PositionAccess::tellChange(*this);
 }
 

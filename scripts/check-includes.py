@@ -1,10 +1,13 @@
 #!/usr/bin/env python3
 # SPDX-FileCopyrightText: 2026 The qmClient authors
 # SPDX-License-Identifier: GPL-3.0-or-later
-"""Checks that a folder includes only the folders it may know: the picture of docs/architecture.md."""
+"""Checks that a folder includes only the folders it may know, as in the picture of docs/architecture.md, and that no
+source includes a header twice."""
 
+import collections
 import pathlib
 import re
+import subprocess
 import sys
 
 PLATFORM = ["platform/basic", "platform/registry", "platform/share", "platform/jet", "platform/forms",
@@ -29,6 +32,7 @@ ALLOWED = {
     "app": [*PLATFORM, "resources", "errors", "data", "tray", "audio", "dialogs"],
 }
 INCLUDE = re.compile(r'^\s*#\s*include\s+"([^"]+)"', re.MULTILINE)
+ANY_INCLUDE = re.compile(r'^#include (["<].+[">])', re.MULTILINE)
 
 
 def folder_of(path, folders):
@@ -48,8 +52,16 @@ def wrong_includes(root):
                     yield f"{source.relative_to(root)}: {folder} must not include {target}"
 
 
+def repeated_includes(root):
+    listed = subprocess.run(["git", "ls-files", "*.cpp", "*.h"], cwd=root, capture_output=True, text=True, check=True)
+    for source in listed.stdout.splitlines():
+        counts = collections.Counter(ANY_INCLUDE.findall((root / source).read_text(encoding="utf-8")))
+        yield from (f"{source}: {included} is included {count} times" for included, count in counts.items() if count > 1)
+
+
 def main():
-    found = list(wrong_includes(pathlib.Path(__file__).resolve().parent.parent))
+    root = pathlib.Path(__file__).resolve().parent.parent
+    found = [*wrong_includes(root), *repeated_includes(root)]
     print("\n".join(found) if found else "includes: every folder keeps to its directions")
     return 1 if found else 0
 

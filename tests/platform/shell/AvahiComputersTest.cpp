@@ -14,11 +14,11 @@
 namespace shell {
 namespace {
 
-using testing::ElementsAre;
-using testing::IsEmpty;
-using testing::Pair;
+using ::testing::ElementsAre;
+using ::testing::IsEmpty;
+using ::testing::Pair;
 
-class AvahiComputersTest : public testing::Test {
+class AvahiComputersTest : public ::testing::Test {
 protected:
     void search(const QDBusConnection& bus) {
         m_source.emplace(bus);

@@ -12,7 +12,7 @@ namespace shell {
 namespace {
 
 // The platform's answers, on a desktop without a notification area; the shown icons are tried on real panels.
-class DesktopNotificationAreaTest : public testing::Test {
+class DesktopNotificationAreaTest : public ::testing::Test {
 protected:
     DesktopNotificationAreaTest() {
         m_record.cbSize = kSizeVersion2W;

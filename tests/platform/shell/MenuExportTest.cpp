@@ -10,7 +10,7 @@
 namespace shell {
 namespace {
 
-class MenuExportTest : public testing::Test {
+class MenuExportTest : public ::testing::Test {
 protected:
     MenuExportTest() {
         m_menu.addAction(u"&View Call Log"_qs);

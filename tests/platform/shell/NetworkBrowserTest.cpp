@@ -15,7 +15,7 @@ namespace {
 
 constexpr std::chrono::seconds kPatience{20};
 
-class NetworkBrowserTest : public testing::Test {
+class NetworkBrowserTest : public ::testing::Test {
 protected:
     // What the user does once the browser is up.
     std::optional<ItemIdList> browse(BrowseInfo& info, const std::function<void(NetworkDialog&)>& act) {

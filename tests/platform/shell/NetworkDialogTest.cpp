@@ -14,9 +14,9 @@
 namespace shell {
 namespace {
 
-using testing::ElementsAre;
+using ::testing::ElementsAre;
 
-class NetworkDialogTest : public testing::Test {
+class NetworkDialogTest : public ::testing::Test {
 protected:
     // Two sources, one of which the test speaks for.
     void open(bool withShares = false) {

@@ -29,7 +29,7 @@ private:
     std::function<void()> m_call;
 };
 
-class NotificationAreaWatchTest : public testing::Test {
+class NotificationAreaWatchTest : public ::testing::Test {
 protected:
     NotificationAreaWatchTest() {
         QObject::connect(&m_watch, &NotificationAreaWatch::missing, &m_watch, [this] { ++m_told; });

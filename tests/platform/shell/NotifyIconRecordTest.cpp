@@ -47,7 +47,7 @@ Bytes fullRecord(const Layout& layout, std::uint32_t flags = 1 | 2 | 4 | 16) {
     return bytes;
 }
 
-class NotifyIconRecordTest : public testing::TestWithParam<Layout> {};
+class NotifyIconRecordTest : public ::testing::TestWithParam<Layout> {};
 
 TEST_P(NotifyIconRecordTest, ReadsEveryFieldFromItsDocumentedOffset) {
     const auto record = GetParam().read(fullRecord(GetParam()));
@@ -114,8 +114,8 @@ TEST_P(NotifyIconRecordTest, RejectsARecordCutAnywhere) {
         EXPECT_FALSE(layout.read(std::span(bytes).first(length))) << length;
 }
 
-INSTANTIATE_TEST_SUITE_P(Narrow, NotifyIconRecordTest, testing::Values(kNarrow));
-INSTANTIATE_TEST_SUITE_P(Wide, NotifyIconRecordTest, testing::Values(kWide));
+INSTANTIATE_TEST_SUITE_P(Narrow, NotifyIconRecordTest, ::testing::Values(kNarrow));
+INSTANTIATE_TEST_SUITE_P(Wide, NotifyIconRecordTest, ::testing::Values(kWide));
 
 TEST(NotifyIconRecordTextTest, ReadsNarrowTextsInTheAnsiCodePage) {
     Bytes bytes = fullRecord(kNarrow);

@@ -15,7 +15,7 @@
 namespace shell {
 namespace {
 
-class ProgramStarterTest : public testing::Test {
+class ProgramStarterTest : public ::testing::Test {
 protected:
     // A program that leaves its arguments' number in a file.
     std::string program(const QString& name, bool isExecutable = true) const {
