@@ -98,12 +98,11 @@ TableDefinition TableEmptier::emptied(PageAllocator& allocator) {
     return table;
 }
 
-// A page that the map of free pages hands out although it has a use would be lost to its user.
+// A page that the map of free pages hands out although it has a use would be lost to its user. None of those
+// that are about to be emptied is in that map: refuseForeignPages().
 void TableEmptier::refuseUsedPages() const {
-    const std::vector<PageNumber> ours = m_contents.emptiedPages();
     for (const PageNumber page : m_cache.newPages())
-        if (m_others.isUsed(page) || std::ranges::binary_search(ours, page) ||
-            std::ranges::count(m_table.pages, page) != 0)
+        if (m_others.isUsed(page) || std::ranges::count(m_table.pages, page) != 0)
             fail(page, "the page is marked free, but in use");
 }
 
@@ -146,13 +145,12 @@ void TableEmptier::freeOldPages(const DefinitionSwitch& change) {
     m_cache.flush();
 }
 
-// Pages of usage maps that held nothing but what the table has got new.
+// Pages of usage maps that held nothing but what the table has got new: no map of long values, none of
+// others.
 std::vector<PageNumber> TableEmptier::unusedMapPages() {
     std::map<PageNumber, std::set<std::uint8_t>> rowsByPage;
     for (const RowPointer map : m_contents.emptiedMaps())
         rowsByPage[map.page].insert(map.row);
-    for (const UsageMap& map : m_contents.longValueMaps)
-        rowsByPage.erase(map.where().page);
     std::vector<PageNumber> pages;
     for (const auto& [page, rows] : rowsByPage) {
         PageBuffer buffer;

@@ -123,6 +123,72 @@ TEST(TableEmptier, DoesNotGrowTheFileWhenRepeated) {
     EXPECT_NO_THROW(checkDatabase(file));
 }
 
+bool isFree(share::File& file, PageNumber page) {
+    PageReader pages(file, 0);
+    return PageUse(pages, definitionPageOf(file, kLog)).freePages().contains(page);
+}
+
+TEST(TableEmptier, FreesThePagesOfTheDefinitionThatItReplaced) {
+    share::MemoryFile file(twoPageDatabase(3));
+    const PageNumber old = definitionOf(file, kLog).pages.at(1);
+    emptyLog(file);
+    EXPECT_NE(definitionOf(file, kLog).pages.at(1), old);
+    EXPECT_TRUE(isFree(file, old));
+}
+
+// The table's maps of rows and indexes are on a page of their own after the first delete.
+class OldMapPage : public ::testing::Test {
+protected:
+    OldMapPage() {
+        emptyLog(m_file);
+        addCall(m_file, "one");
+    }
+    PageNumber page() { return definitionOf(m_file, kLog).ownedMap.page; }
+
+    share::MemoryFile m_file{callLogDatabase(5)};
+};
+
+TEST_F(OldMapPage, IsFreed) {
+    const PageNumber old = page();
+    emptyLog(m_file);
+    EXPECT_TRUE(isFree(m_file, old));
+}
+
+TEST_F(OldMapPage, StaysWithARowThatIsNotTheTables) {
+    const PageNumber old = page();
+    WriteCache cache(m_file);
+    appendRow(cache.edit(old, WriteStage::UsageMaps), std::array<std::byte, 5>{}, {});
+    cache.flush();
+    emptyLog(m_file);
+    EXPECT_FALSE(isFree(m_file, old));
+}
+
+TEST_F(OldMapPage, StaysWithAMapThatAnotherTableUsesToo) {
+    emptyLog(m_file); // else the other table would have the pages in it as well
+    const TableDefinition log = definitionOf(m_file, kLog);
+    FileImage image = m_file.bytes();
+    ByteEditor(image).put32(definitionPageOf(m_file, "MailboxInfo") * format::page::kSize +
+                                format::definition::kFreeMap,
+                            log.freeMap.stored());
+    m_file.write(0, image);
+    emptyLog(m_file);
+    EXPECT_FALSE(isFree(m_file, log.freeMap.page));
+}
+
+TEST(TableEmptier, TellsOthersWhenTheTableIsEmptyAndItsPagesAreNotYetFree) {
+    share::MemoryFile file(callLogDatabase(5));
+    PageReader before(file, 0);
+    const std::vector<PageNumber> old = UsageMap::read(before, definitionOf(file, kLog).ownedMap).pages();
+    int told = 0;
+    TableEmptier(file, kLog).run([&] {
+        ++told;
+        EXPECT_TRUE(readRows(file, kLog).empty());
+        EXPECT_FALSE(isFree(file, old.front()));
+    });
+    EXPECT_EQ(told, 1);
+    EXPECT_TRUE(isFree(file, old.front()));
+}
+
 TEST(TableEmptier, SeesThatThereIsNothingToDo) {
     share::MemoryFile file(callLogDatabase(5));
     EXPECT_FALSE(TableEmptier(file, kLog).isDone());
@@ -179,6 +245,24 @@ TEST_F(LeftOver, DataPageIsFreedByTheNextDelete) {
 
 TEST_F(LeftOver, LongValuePageIsFreedByTheNextDelete) {
     list(log().longValueMaps.front().owned);
+    expectCompleted();
+}
+
+// A map of them no longer fits in its row then.
+TEST_F(LeftOver, LongValuePagesFarApartAreFreedByTheNextDelete) {
+    constexpr PageNumber kFar = 700;
+    FileImage image = m_file.bytes();
+    image.resize(kFar * format::page::kSize);
+    m_file.write(0, image);
+    WriteCache cache(m_file);
+    PageAllocator allocator(cache);
+    UsageMapWriter map(cache, allocator, log().longValueMaps.front().owned);
+    PageNumber page = allocator.allocate();
+    map.add(page);
+    while (page < kFar)
+        page = allocator.allocate();
+    map.add(page);
+    cache.flush();
     expectCompleted();
 }
 
@@ -297,6 +381,13 @@ TEST_F(DamagedTable, IsRefusedWhenItListsAPageTwice) {
 TEST_F(DamagedTable, IsRefusedWhenItsPageIsMarkedFree) {
     markFree(firstPageOf(m_log.ownedMap));
     expectRefused();
+}
+
+TEST_F(DamagedTable, IsRefusedWhenItsDefinitionIsMarkedFree) {
+    markFree(m_log.page());
+    const FileImage before = m_file.bytes();
+    EXPECT_EQ(errorNumberOf([&] { emptyLog(m_file); }), basic::kProviderFailure);
+    EXPECT_EQ(m_file.bytes(), before);
 }
 
 TEST(TableEmptier, RefusesToTakeAPageThatIsWronglyMarkedFree) {

@@ -9,10 +9,10 @@ namespace {
 
 class DenyingFile final : public File {
 public:
-    explicit DenyingFile(std::unique_ptr<File> behind) : m_behind(std::move(behind)) {}
+    DenyingFile(std::unique_ptr<File> behind, bool denies) : m_behind(std::move(behind)), m_denies(denies) {}
 
     const std::string& name() const override { return m_behind->name(); }
-    bool excludesOthers() const override { return true; }
+    bool excludesOthers() const override { return m_denies; }
     std::uint64_t size() override { return m_behind->size(); }
     std::size_t read(std::uint64_t offset, std::span<std::byte> into) override {
         return m_behind->read(offset, into);
@@ -26,6 +26,7 @@ public:
 
 private:
     std::unique_ptr<File> m_behind;
+    bool m_denies;
 };
 
 } // namespace
@@ -38,9 +39,9 @@ std::unique_ptr<File> DenyingFileSystem::openFile(std::string_view path, OpenMod
         --refusals;
         throw basic::RuntimeError(basic::kFileAlreadyOpen);
     }
-    if (mode != OpenMode::Exclusive)
+    if (mode != OpenMode::Exclusive && canDeny)
         return m_behind.openFile(path, mode);
-    return std::make_unique<DenyingFile>(m_behind.openFile(path, mode));
+    return std::make_unique<DenyingFile>(m_behind.openFile(path, mode), canDeny);
 }
 
 } // namespace share::testing

@@ -16,6 +16,7 @@ class DenyingFileSystem final : public FileSystemObject {
 public:
     explicit DenyingFileSystem(FileSystemObject& behind) : m_behind(behind) {}
 
+    bool canDeny = true;         // false: it can neither deny sharing nor lock, as some mounts
     int exclusiveRefusals = 0;   // of the next ones to open a file exclusively
     int readRefusals = 0;        // of the next other ones
     std::string onlyTheDatabase; // what is refused if this is not empty

@@ -242,6 +242,20 @@ TEST_F(DenyingServer, NeedsNoLockFile) {
     EXPECT_FALSE(std::filesystem::exists(m_database.lockFilePlace()));
 }
 
+TEST_F(DenyingServer, WithoutAnyLocksRefusesAtOnceAndSaysSo) {
+    const FileImage before = m_database.bytes();
+    m_files.canDeny = false;
+    try {
+        m_remote.Execute(kDelete);
+        FAIL();
+    } catch (const basic::RuntimeError& error) {
+        EXPECT_EQ(error.number(), basic::kProviderFailure);
+        EXPECT_THAT(error.description(), HasSubstr("files cannot be locked there"));
+    }
+    EXPECT_EQ(m_pauses, 0);
+    EXPECT_EQ(m_database.bytes(), before);
+}
+
 TEST_F(DenyingServer, IsAskedAgainWhileSomebodyHasTheFileOpen) {
     m_files.exclusiveRefusals = 3;
     m_remote.Execute(kDelete);
