@@ -3,12 +3,10 @@
 #include "platform/share/smb/ThreadWaiter.h"
 
 #include "platform/basic/RuntimeError.h"
-#include "platform/share/smb/BootTime.h"
 
 #include <poll.h>
 #include <sys/eventfd.h>
 
-#include <algorithm>
 #include <array>
 #include <cerrno>
 
@@ -21,17 +19,17 @@ ThreadWaiter::ThreadWaiter() : m_cancelled(::eventfd(0, EFD_CLOEXEC | EFD_NONBLO
 
 Waited ThreadWaiter::untilReadable(int descriptor, std::chrono::milliseconds atMost) {
     std::array<pollfd, 2> watched{{{m_cancelled.get(), POLLIN, 0}, {descriptor, POLLIN, 0}}};
-    const auto end = bootTime() + atMost;
-    for (;;) {
-        const auto left = std::max(end - bootTime(), std::chrono::milliseconds(0));
-        const int count = ::poll(watched.data(), watched.size(), static_cast<int>(left.count()));
+    const int part = static_cast<int>(partOf(atMost).count());
+    for (int parts = 0; parts < kPartsOfAWait;) {
+        const int count = ::poll(watched.data(), watched.size(), part);
         if (count < 0 && errno != EINTR)
             throw basic::errorFromErrno(errno, "wait", "for a server");
         if (count > 0)
             return watched[0].revents != 0 ? Waited::Cancelled : Waited::Ready;
         if (count == 0)
-            return Waited::TimeOver;
+            ++parts;
     }
+    return Waited::TimeOver;
 }
 
 void ThreadWaiter::cancel() noexcept {

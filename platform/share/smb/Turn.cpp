@@ -3,7 +3,6 @@
 #include "platform/share/smb/Turn.h"
 
 #include "platform/basic/RuntimeError.h"
-#include "platform/share/smb/BootTime.h"
 
 #include <sys/eventfd.h>
 
@@ -17,13 +16,10 @@ TurnGate::TurnGate() : m_free(::eventfd(1, EFD_SEMAPHORE | EFD_CLOEXEC | EFD_NON
 }
 
 Turn::Turn(TurnGate& gate, Waiter& waiter, std::chrono::milliseconds atMost) : m_gate(gate) {
-    const auto end = bootTime() + atMost;
     eventfd_t taken = 0;
-    while (::eventfd_read(m_gate.m_free.get(), &taken) != 0) {
-        const auto left = end - bootTime();
-        if (left.count() <= 0 || waiter.untilReadable(m_gate.m_free.get(), left) == Waited::Cancelled)
+    while (::eventfd_read(m_gate.m_free.get(), &taken) != 0)
+        if (waiter.untilReadable(m_gate.m_free.get(), atMost) != Waited::Ready)
             throw basic::RuntimeError(basic::kPathNotFound, "the server is busy with another request");
-    }
 }
 
 Turn::~Turn() {

@@ -21,7 +21,7 @@ private:
 
 class Turn {
 public:
-    // Error 76 when the turn does not come within `atMost` or the wait is cancelled.
+    // Error 76 when nobody gives the turn back within `atMost` or the wait is cancelled.
     Turn(TurnGate& gate, Waiter& waiter, std::chrono::milliseconds atMost);
     Turn(const Turn&) = delete;
     Turn& operator=(const Turn&) = delete;

@@ -10,6 +10,15 @@ namespace share::smb {
 
 enum class Waited { Ready, TimeOver, Cancelled };
 
+// The time of a wait is counted in parts, each of which counts once however long it took: while the machine
+// slept, or the processes were stopped, the other side had no chance to answer either.
+inline constexpr int kPartsOfAWait = 12;
+
+// The length of one part, rounded up.
+constexpr std::chrono::milliseconds partOf(std::chrono::milliseconds wait) {
+    return (wait + std::chrono::milliseconds(kPartsOfAWait - 1)) / kPartsOfAWait;
+}
+
 class Waiter {
 public:
     Waiter() = default;

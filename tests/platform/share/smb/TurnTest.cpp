@@ -8,8 +8,11 @@
 #include "tests/platform/share/ExpectError.h"
 
 #include <gtest/gtest.h>
+#include <sys/wait.h>
+#include <unistd.h>
 
 #include <atomic>
+#include <csignal>
 #include <optional>
 #include <thread>
 #include <vector>
@@ -78,6 +81,30 @@ TEST(ThreadWaiter, EndsAWaitThatRunsWhenItIsCancelled) {
     ThreadWaiter waiter;
     std::jthread canceller([&waiter] { waiter.cancel(); });
     EXPECT_EQ(waiter.untilReadable(here.descriptor(), 60min), Waited::Cancelled);
+}
+
+// A process of its own waits, is stopped for longer than the wait may take, and goes on.
+TEST(ThreadWaiter, DoesNotCountTheTimeInWhichItsProcessWasStopped) {
+    auto [here, there] = PacketSocket::pair();
+    const pid_t id = ::fork();
+    ASSERT_GE(id, 0);
+    if (id == 0) {
+        ThreadWaiter waiter;
+        here.send(std::vector<std::byte>(1));
+        ::_exit(static_cast<int>(waiter.untilReadable(here.descriptor(), 1200ms)));
+    }
+    there.receive();
+    ::kill(id, SIGSTOP);
+    int status = 0;
+    ::waitpid(id, &status, WUNTRACED);
+    ASSERT_TRUE(WIFSTOPPED(status)) << status;
+    std::this_thread::sleep_for(1300ms);
+    ::kill(id, SIGCONT);
+    std::this_thread::sleep_for(200ms); // so long the answer takes
+    there.send(std::vector<std::byte>(1));
+    ::waitpid(id, &status, 0);
+    ASSERT_TRUE(WIFEXITED(status));
+    EXPECT_EQ(WEXITSTATUS(status), static_cast<int>(Waited::Ready));
 }
 
 TEST(PacketSocket, BringsTheLargestPacketOverWhole) {
