@@ -34,12 +34,15 @@ std::unique_ptr<share::File> Engine::openForReading(std::string_view path) {
 // The header is one read and nothing else is looked at, so there is nothing to compare the words with.
 void Engine::checkDatabase(std::string_view path) {
     for (int attempt = 1;; ++attempt) {
-        {
+        try {
             const auto file = openForReading(path);
             if (!DatabaseHeader::read(*file).commitWords.isWriting())
                 return;
             if (attempt == kMaxReadTries)
                 throw DatabaseBusy(*file);
+        } catch (const share::ConnectionLost&) {
+            if (attempt == kMaxReadTries)
+                throw;
         }
         m_pause(attempt);
     }

@@ -7,6 +7,7 @@
 
 #include "platform/basic/RuntimeError.h"
 #include "platform/jet/CommitWords.h"
+#include "platform/share/ConnectionLost.h"
 #include "platform/share/File.h"
 
 #include <functional>
@@ -61,18 +62,21 @@ auto readOnce(const ReadGuard& guard, bool isLast, Read&& read) -> std::optional
 
 // Opens and reads until a reading ran through while nobody wrote, and answers its result. What `open` gives
 // is handed to `read` and has file() and commitWords(), as they were when it was opened; it is gone before
-// each pause, so that nothing stays open meanwhile.
+// each pause, so that nothing stays open meanwhile. A file that was lost with its connection is a try, too.
 template <typename Open, typename Read>
 auto readConsistently(const ReadPause& pause, Open&& open, Read&& read) {
     for (int attempt = 1;; ++attempt) {
-        {
+        const bool isLast = attempt == kMaxReadTries;
+        try {
             auto opened = open();
-            const bool isLast = attempt == kMaxReadTries;
             const ReadGuard guard(opened.file(), opened.commitWords());
             if (auto result = readOnce(guard, isLast, [&] { return read(opened); }))
                 return std::move(*result);
             if (isLast)
                 throw DatabaseBusy(opened.file());
+        } catch (const share::ConnectionLost&) {
+            if (isLast)
+                throw;
         }
         pause(attempt);
     }

@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "platform/share/smb/SmbFile.h"
 
-#include "platform/basic/RuntimeError.h"
+#include "platform/share/ConnectionLost.h"
 #include "platform/share/smb/Failure.h"
 
 #include <algorithm>
@@ -79,7 +79,8 @@ void SmbFile::write(std::uint64_t offset, std::span<const std::byte> from) {
 // Once the connection is lost the handle is nobody's: to close it would start a process for nothing.
 Response SmbFile::call(Request request, std::string_view what) {
     if (m_handle == 0)
-        throw failure({.stage = Stage::Handle, .failure = ECONNABORTED}, what, m_path);
+        throw ConnectionLost(
+            failure({.stage = Stage::Handle, .failure = ECONNABORTED}, what, m_path).description());
     request.handle = m_handle;
     try {
         return m_server.call(request, m_waiter, what);
@@ -87,7 +88,7 @@ Response SmbFile::call(Request request, std::string_view what) {
         if (error.number() != basic::kDeviceIoError && error.number() != basic::kPathNotFound)
             throw;
         m_handle = 0;
-        throw basic::RuntimeError(basic::kDeviceIoError, error.description() + ": " + m_path);
+        throw ConnectionLost(error.description() + ": " + m_path);
     }
 }
 

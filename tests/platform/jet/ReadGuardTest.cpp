@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "platform/jet/ReadGuard.h"
 
+#include "tests/platform/jet/ErrorNumberOf.h"
 #include "tests/platform/jet/FailureOf.h"
 #include "tests/platform/jet/Images.h"
 #include "tests/platform/jet/MemoryFile.h"
@@ -129,6 +130,27 @@ TEST_F(ReadConsistently, OtherErrorsAreBelievedWhenNobodyWrote) {
 TEST_F(ReadConsistently, FileWithoutCommitWordsIsAnError) {
     file.bytes.resize(0xE10);
     EXPECT_THAT(test::failureOf([&] { CommitWords::read(file); }), HasSubstr("cut short"));
+}
+
+TEST_F(ReadConsistently, FileThatIsLostWithItsConnectionIsOpenedAnew) {
+    EXPECT_EQ(run([this] {
+                  if (++calls < kMaxReadTries)
+                      throw share::ConnectionLost("gone");
+                  return calls;
+              }),
+              kMaxReadTries);
+    EXPECT_EQ(pauses.size(), kMaxReadTries - 1U);
+}
+
+TEST_F(ReadConsistently, ConnectionThatIsLostAtEveryTryIsToldAsAnErrorOfTheDevice) {
+    EXPECT_EQ(test::errorNumberOf([this] {
+                  run([this]() -> int {
+                      ++calls;
+                      throw share::ConnectionLost("gone");
+                  });
+              }),
+              basic::kDeviceIoError);
+    EXPECT_EQ(calls, kMaxReadTries);
 }
 
 } // namespace
