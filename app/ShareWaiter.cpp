@@ -16,7 +16,12 @@ namespace {
 
 using share::smb::Waited;
 
-enum LoopEnd { kReadable = 1, kTimeOver = 2 }; // anything else is the end of the program
+enum LoopEnd { kReadable = 1, kTimeOver, kInputIsDue }; // anything else is the end of the program
+
+bool isReadable(int descriptor, std::chrono::milliseconds atMost = {}) {
+    pollfd watched{descriptor, POLLIN, 0};
+    return ::poll(&watched, 1, static_cast<int>(atMost.count())) > 0;
+}
 
 } // namespace
 
@@ -35,23 +40,25 @@ bool ShareWaiter::isSoonReadable(int descriptor, std::chrono::milliseconds atMos
     const auto left = kPatience - std::chrono::milliseconds(m_sinceEvents.elapsed());
     if (left.count() <= 0)
         return false;
-    pollfd watched{descriptor, POLLIN, 0};
-    return ::poll(&watched, 1, static_cast<int>(std::min(left, atMost).count())) > 0;
+    return isReadable(descriptor, std::min(left, atMost));
 }
 
 Waited ShareWaiter::letEventsRun(int descriptor, std::chrono::milliseconds atMost) {
     QEventLoop loop;
     QSocketNotifier readable(descriptor, QSocketNotifier::Read);
     connect(&readable, &QSocketNotifier::activated, &loop, [&loop] { loop.exit(kReadable); });
-    QTimer deadline;
-    deadline.setSingleShot(true);
-    connect(&deadline, &QTimer::timeout, &loop, [&loop] { loop.exit(kTimeOver); });
-    deadline.start(atMost);
+    QTimer part;
+    int parts = share::smb::kPartsOfAWait;
+    connect(&part, &QTimer::timeout, &loop, [&loop, &parts] {
+        if (--parts <= 0)
+            loop.exit(kTimeOver);
+    });
+    part.start(share::smb::partOf(atMost));
 
     const int end = exec(loop);
     if (m_isEnded || (end != kReadable && end != kTimeOver))
         return Waited::Cancelled;
-    return end == kReadable ? Waited::Ready : Waited::TimeOver;
+    return end == kReadable || isReadable(descriptor) ? Waited::Ready : Waited::TimeOver;
 }
 
 // Inside of another wait nothing may run.
@@ -63,18 +70,51 @@ bool ShareWaiter::pass(std::chrono::milliseconds time) {
         return true;
     }
     QEventLoop loop;
-    QTimer::singleShot(time, Qt::PreciseTimer, &loop, [&loop] { loop.exit(kTimeOver); });
+    QTimer end;
+    end.setTimerType(Qt::PreciseTimer);
+    connect(&end, &QTimer::timeout, &loop, [&loop] { loop.exit(kTimeOver); });
+    end.start(time);
     return exec(loop) == kTimeOver && !m_isEnded;
 }
 
+// An end that another one covers comes again: what it is about is still so.
 int ShareWaiter::exec(QEventLoop& loop) {
     m_loop = &loop;
-    const int end = loop.exec(QEventLoop::ExcludeUserInputEvents);
+    if (!m_sinceInput.isValid())
+        m_sinceInput.start();
+    int end = execWithoutInput(loop);
+    if (end == kInputIsDue && !m_isEnded)
+        end = execHoldingInput(loop);
     m_loop = nullptr;
     m_sinceEvents.start();
-    if (!m_later.empty())
-        QMetaObject::invokeMethod(this, &ShareWaiter::runNext, Qt::QueuedConnection);
+    QMetaObject::invokeMethod(this, &ShareWaiter::settle, Qt::QueuedConnection);
     return end;
+}
+
+int ShareWaiter::execWithoutInput(QEventLoop& loop) {
+    const auto left = kInputPatience - std::chrono::milliseconds(m_sinceInput.elapsed());
+    if (left.count() <= 0)
+        return kInputIsDue;
+    QTimer due;
+    connect(&due, &QTimer::timeout, &loop, [&loop] { loop.exit(kInputIsDue); });
+    due.start(left);
+    return loop.exec(QEventLoop::ExcludeUserInputEvents);
+}
+
+int ShareWaiter::execHoldingInput(QEventLoop& loop) {
+    m_input.hold();
+    const int end = loop.exec();
+    m_input.stopHolding();
+    return end;
+}
+
+// Runs from the event loop. If that is the loop of another wait, the end of that wait calls again.
+void ShareWaiter::settle() {
+    if (isWaiting())
+        return;
+    m_sinceInput.invalidate();
+    m_input.handOut();
+    runNext();
 }
 
 void ShareWaiter::afterWaiting(std::function<void()> work) {
@@ -85,7 +125,7 @@ void ShareWaiter::afterWaiting(std::function<void()> work) {
     m_later.push_back(std::move(work));
 }
 
-// Runs from the event loop. If that is the loop of another wait, the end of that wait calls again.
+// As settle().
 void ShareWaiter::runNext() {
     if (isWaiting() || m_later.empty())
         return;

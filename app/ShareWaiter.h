@@ -2,11 +2,13 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 // How the user-interface thread waits for a server: short waits are slept through, longer ones let painting
-// and the system's events go on in an event loop of their own, while the user's input stays where it is until
-// the wait is over. Whatever else wants to begin meanwhile (a tick, a command of the tray menu) asks
-// isWaiting() or comes by afterWaiting(). One wait at a time: a wait from inside a wait ends at once, as
-// cancelled. User-interface thread.
+// and the system's events go on in an event loop of their own, while the user's input stays where it is. When
+// that has taken half a second, windows can be closed and the notification icon can be used; any other input
+// is kept until the program waits no more. Whatever else wants to begin meanwhile (a tick, a command of the
+// tray menu) asks isWaiting() or comes by afterWaiting(). One wait at a time: a wait from inside a wait ends
+// at once, as cancelled. User-interface thread.
 
+#include "app/HeldInput.h"
 #include "platform/mediagraph/Waiting.h"
 #include "platform/share/smb/Waiter.h"
 
@@ -24,6 +26,8 @@ class ShareWaiter final : public QObject, public share::smb::Waiter, public medi
 public:
     // How long events may be kept waiting before they are let run.
     static constexpr std::chrono::milliseconds kPatience{50};
+    // The same for the user's input: a list is loaded in less, and then everything stays in its order.
+    static constexpr std::chrono::milliseconds kInputPatience{500};
 
     share::smb::Waited untilReadable(int descriptor, std::chrono::milliseconds atMost) override;
 
@@ -42,10 +46,15 @@ private:
     bool isSoonReadable(int descriptor, std::chrono::milliseconds atMost);
     share::smb::Waited letEventsRun(int descriptor, std::chrono::milliseconds atMost);
     int exec(QEventLoop& loop);
+    int execWithoutInput(QEventLoop& loop);
+    int execHoldingInput(QEventLoop& loop);
+    void settle();
     void runNext();
 
     QEventLoop* m_loop = nullptr; // of the wait that is under way
     QElapsedTimer m_sinceEvents;  // not started: nobody knows
+    QElapsedTimer m_sinceInput;   // not started: nobody waits
+    HeldInput m_input;
     std::deque<std::function<void()>> m_later;
     bool m_isEnded = false;
 };

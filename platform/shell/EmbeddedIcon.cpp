@@ -34,12 +34,16 @@ QSystemTrayIcon::MessageIcon messageIcon(std::uint32_t iconFlags) {
 QWidgetList embeddedWindows() {
     QWidgetList found;
     for (QWidget* widget : QApplication::topLevelWidgets())
-        if (widget->inherits("QSystemTrayIconSys"))
+        if (isEmbeddedIcon(*widget))
             found.append(widget);
     return found;
 }
 
 } // namespace
+
+bool isEmbeddedIcon(const QWidget& window) {
+    return window.inherits("QSystemTrayIconSys");
+}
 
 EmbeddedIcon::EmbeddedIcon(const TrayIconFace& face, Listener listener)
     : m_listener(std::move(listener)), m_menu(face.menu) {

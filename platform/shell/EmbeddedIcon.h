@@ -18,6 +18,9 @@
 
 namespace shell {
 
+// Whether it is the window of such an icon.
+bool isEmbeddedIcon(const QWidget& window);
+
 class EmbeddedIcon : public QObject, public TrayIcon {
     Q_OBJECT
 public:

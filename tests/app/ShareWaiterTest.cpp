@@ -5,10 +5,17 @@
 #include "platform/share/smb/PacketSocket.h"
 
 #include <QCoreApplication>
+#include <QDialog>
+#include <QMenu>
+#include <QPushButton>
 #include <QTest>
 #include <QTimer>
 
 #include <gtest/gtest.h>
+
+#include <memory>
+#include <optional>
+#include <thread>
 
 namespace app {
 namespace {
@@ -40,6 +47,14 @@ TEST_F(ShareWaiterTest, LetsEventsRunUntilTheAnswerComes) {
 
 TEST_F(ShareWaiterTest, EndsAtTheDeadline) {
     EXPECT_EQ(wait(1ms), Waited::TimeOver);
+}
+
+TEST_F(ShareWaiterTest, DoesNotCountTheTimeInWhichTheProgramStoodStill) {
+    QTimer::singleShot(0, &m_waiter, [this] {
+        std::this_thread::sleep_for(300ms);
+        QTimer::singleShot(10ms, &m_waiter, [this] { answer(); });
+    });
+    EXPECT_EQ(wait(200ms), Waited::Ready);
 }
 
 TEST_F(ShareWaiterTest, IsCancelledByTheEndOfTheProgram) {
@@ -146,6 +161,94 @@ TEST_F(ShareWaiterTest, DropsSuchWorkAtTheEndOfTheProgram) {
     EXPECT_EQ(wait(), Waited::Cancelled);
     QCoreApplication::processEvents();
     EXPECT_FALSE(isDone);
+}
+
+// A window with a button in it, and a user who clicks when the wait has taken long.
+class InputTest : public ShareWaiterTest {
+protected:
+    InputTest() {
+        QObject::connect(&m_button, &QPushButton::clicked, &m_button,
+                         [this] { m_wasWaiting = m_waiter.isWaiting(); });
+        m_button.show();
+        EXPECT_TRUE(QTest::qWaitForWindowExposed(&m_button));
+    }
+    void whenTheWaitIsLong(std::function<void()> action) {
+        QTimer::singleShot(ShareWaiter::kInputPatience + 100ms, &m_waiter,
+                           [this, action = std::move(action)] {
+                               action();
+                               answer();
+                           });
+    }
+    void click() { QTest::mouseClick(m_button.windowHandle(), Qt::LeftButton, {}, m_button.rect().center()); }
+    bool isClicked() {
+        return QTest::qWaitFor([this] { return m_wasWaiting.has_value(); }, 1000);
+    }
+
+    QPushButton m_button{QStringLiteral("&Save")};
+    std::optional<bool> m_wasWaiting;
+};
+
+TEST_F(InputTest, IsHeldInALongWaitAndHandedOutAfterwards) {
+    whenTheWaitIsLong([this] { click(); });
+    EXPECT_EQ(wait(), Waited::Ready);
+    EXPECT_EQ(m_wasWaiting, std::nullopt);
+    ASSERT_TRUE(isClicked());
+    EXPECT_EQ(m_wasWaiting, false);
+}
+
+TEST_F(InputTest, IsNotHandedOutInsideOfTheNextWait) {
+    whenTheWaitIsLong([this] { click(); });
+    EXPECT_EQ(wait(), Waited::Ready);
+    m_here.receive();
+    EXPECT_EQ(wait(100ms), Waited::TimeOver);
+    EXPECT_EQ(m_wasWaiting, std::nullopt);
+    EXPECT_TRUE(isClicked());
+}
+
+TEST_F(InputTest, OfAShortcutIsHeldToo) {
+    EXPECT_TRUE(QTest::qWaitForWindowActive(&m_button));
+    whenTheWaitIsLong([this] {
+        QTest::keyClick(m_button.windowHandle(), Qt::Key_S, Qt::AltModifier);
+        QCoreApplication::processEvents(); // it comes as the window system's events do
+    });
+    EXPECT_EQ(wait(), Waited::Ready);
+    EXPECT_EQ(m_wasWaiting, std::nullopt);
+    ASSERT_TRUE(isClicked());
+    EXPECT_EQ(m_wasWaiting, false);
+}
+
+TEST_F(InputTest, ReachesAMenuThatIsOpen) {
+    QMenu menu;
+    bool wasWaiting = false;
+    menu.addAction(QStringLiteral("Close"), &menu, [&] { wasWaiting = m_waiter.isWaiting(); });
+    whenTheWaitIsLong([&menu] {
+        menu.popup({});
+        EXPECT_TRUE(QTest::qWaitForWindowExposed(&menu));
+        QTest::mouseClick(menu.windowHandle(), Qt::LeftButton, {}, menu.rect().center());
+    });
+    EXPECT_EQ(wait(), Waited::Ready);
+    EXPECT_TRUE(wasWaiting);
+}
+
+TEST_F(InputTest, IsDroppedForAWindowThatADialogCovers) {
+    whenTheWaitIsLong([this] { click(); });
+    EXPECT_EQ(wait(), Waited::Ready);
+    QDialog dialog;
+    dialog.open();
+    EXPECT_TRUE(QTest::qWaitForWindowExposed(&dialog));
+    dialog.reject();
+    EXPECT_FALSE(isClicked());
+}
+
+TEST_F(InputTest, ForAWindowThatIsGoneIsDropped) {
+    auto gone = std::make_unique<QPushButton>();
+    gone->show();
+    EXPECT_TRUE(QTest::qWaitForWindowExposed(gone.get()));
+    whenTheWaitIsLong([&gone] { QTest::mouseClick(gone->windowHandle(), Qt::LeftButton); });
+    EXPECT_EQ(wait(), Waited::Ready);
+    gone.reset();
+    click();
+    EXPECT_TRUE(isClicked());
 }
 
 } // namespace

@@ -1,0 +1,82 @@
+// SPDX-FileCopyrightText: 2026 The qmClient authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "app/HeldInput.h"
+
+#include "platform/shell/EmbeddedIcon.h"
+
+#include <QApplication>
+#include <QMouseEvent>
+#include <QWidget>
+#include <QWindow>
+
+#include <algorithm>
+#include <utility>
+
+namespace app {
+namespace {
+
+// Input comes to windows first, which hand it to their widgets; shortcuts come to whom they belong.
+bool isInput(const QObject& receiver, const QEvent& event) {
+    switch (event.type()) {
+    case QEvent::Shortcut:
+    case QEvent::InputMethod:
+        return true;
+    case QEvent::MouseMove:
+        return receiver.isWindowType() && static_cast<const QMouseEvent&>(event).buttons() != Qt::NoButton;
+    case QEvent::MouseButtonPress:
+    case QEvent::MouseButtonRelease:
+    case QEvent::MouseButtonDblClick:
+    case QEvent::Wheel:
+    case QEvent::KeyPress:
+    case QEvent::KeyRelease:
+    case QEvent::ContextMenu:
+    case QEvent::TouchBegin:
+    case QEvent::TouchUpdate:
+    case QEvent::TouchEnd:
+    case QEvent::TouchCancel:
+        return receiver.isWindowType();
+    default:
+        return false;
+    }
+}
+
+bool isNotificationIcon(const QObject& receiver) {
+    const QWidgetList windows = QApplication::topLevelWidgets();
+    return std::ranges::any_of(windows, [&receiver](const QWidget* window) {
+        return window->windowHandle() == &receiver && shell::isEmbeddedIcon(*window);
+    });
+}
+
+// A dialog that came up meanwhile keeps everything from the other windows.
+bool isBlocked(QObject& receiver) {
+    const QWindow* modal = QGuiApplication::modalWindow();
+    const auto* widget = qobject_cast<QWidget*>(&receiver);
+    return modal != nullptr && &receiver != modal &&
+           (widget == nullptr || widget->window()->windowHandle() != modal);
+}
+
+} // namespace
+
+void HeldInput::hold() {
+    QCoreApplication::instance()->installEventFilter(this);
+}
+
+void HeldInput::stopHolding() {
+    QCoreApplication::instance()->removeEventFilter(this);
+}
+
+void HeldInput::handOut() {
+    for (Held& held : std::exchange(m_held, {}))
+        if (held.receiver && !isBlocked(*held.receiver))
+            QCoreApplication::postEvent(held.receiver, held.event.release());
+}
+
+bool HeldInput::eventFilter(QObject* receiver, QEvent* event) {
+    if (!isInput(*receiver, *event) || QApplication::activePopupWidget() != nullptr ||
+        isNotificationIcon(*receiver))
+        return false;
+    m_held.push_back({receiver, std::unique_ptr<QEvent>(event->clone())});
+    return true;
+}
+
+} // namespace app
