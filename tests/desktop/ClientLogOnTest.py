@@ -13,6 +13,7 @@ from samba import PASSWORD  # noqa: E402
 from scene import FIRST  # noqa: E402
 from smb_scene import LOG_ON, SmbScene, helpers, status_of  # noqa: E402
 
+KEYRING = '^Unlock Login Keyring$'
 NOT_CONNECTED = 'A connection to the server could not be established.'
 
 
@@ -85,14 +86,34 @@ class LogOnTest(LogOnScene):
         self.confirm_options(client)
         self.assertEqual(self.wrong_log_ons(), 1)
 
-    def test_takes_a_domain_and_a_password_of_special_characters(self):
-        password = 'p@s:s/w%4\\d'
+    def logs_on(self, password, **who):
+        """With what was typed, at the first attempt."""
+        self.desktop.run(['setxkbmap', 'de'])  # has keys for all characters
         self.samba.set_password(password)
         client = self.start_refused()
-        self.answer(password, user='QMTEST\\mbxuser')
+        self.answer(password, **who)
         client.open()
         client.wait_rows(12)
         self.assertEqual(self.wrong_log_ons(), 0)
+        self.assertEqual(self.samba.log_ons('NT_STATUS_NO_SUCH_USER'), 0)
+
+    def test_takes_a_password_of_special_characters(self):
+        self.logs_on('p@s:s/w%4\\dä')
+
+    def test_takes_a_password_that_looks_like_an_address(self):
+        self.logs_on('%41//user:x@host/ä%')
+
+    def test_takes_a_domain_before_the_user(self):
+        self.logs_on(PASSWORD, user='QMTEST\\mbxuser')
+        self.assertEqual(self.samba.names('NT_STATUS_OK'), {('QMTEST', 'mbxuser')})
+
+    def test_takes_a_realm_behind_the_user(self):
+        self.logs_on(PASSWORD, user='mbxuser@QMTEST.EXAMPLE')
+        self.assertIn('mbxuser@QMTEST.EXAMPLE', {user for _, user in self.samba.names('NT_STATUS_OK')})
+
+    def test_takes_a_domain_of_its_own_field(self):
+        self.logs_on(PASSWORD, domain='QMTEST')
+        self.assertEqual(self.samba.names('NT_STATUS_OK'), {('QMTEST', 'mbxuser')})
 
     def test_keeps_the_password_out_of_files_arguments_and_environments(self):
         password = 'fn0rd-never-written'
@@ -127,9 +148,8 @@ class LogOnTest(LogOnScene):
         self.assertEqual(client.process.wait(10), 0)
 
 
-
-class RememberedTest(LogOnScene):
-    """A session whose keyring is open."""
+class KeyringScene(LogOnScene):
+    """A session with a keyring, which is open."""
 
     def setUp(self):
         super().setUp()
@@ -158,6 +178,8 @@ class RememberedTest(LogOnScene):
         client.process.popen.terminate()
         client.process.wait(10)
 
+
+class RememberedTest(KeyringScene):
     def test_a_remembered_password_is_asked_for_no_more(self):
         self.start_and_remember()
         client = Client(self.desktop)
@@ -176,6 +198,49 @@ class RememberedTest(LogOnScene):
         client.open()
         client.wait_rows(12)
         wait_until(lambda: not self.kept_passwords(), 'the password to be forgotten')
+
+
+class LockedTest(KeyringScene):
+    """The keyring knows the password, but has to be opened first, which its own dialog asks for."""
+
+    def start_locked(self):
+        self.start_and_remember()
+        self.desktop.run(['dbus-update-activation-environment', 'DISPLAY'])  # for that dialog
+        self.ask_bus('org.freedesktop.secrets', '/org/freedesktop/secrets', 'org.freedesktop.Secret.Service.Lock',
+                     "['/org/freedesktop/secrets/collection/login']")
+        client = Client(self.desktop)
+        self.desktop.wait_active(KEYRING, seconds=30)
+        return client
+
+    def listed(self, client):
+        client.open()
+        client.wait_rows(12, seconds=60)
+        self.assertEqual(self.wrong_log_ons(), 0)
+
+    def test_waits_for_the_keyring_and_asks_nobody_else_when_it_is_opened(self):
+        client = self.start_locked()
+        self.desktop.type('keys')
+        self.desktop.key('Return')
+        self.desktop.wait_no_window(KEYRING)
+        self.listed(client)
+        self.assertIsNone(self.desktop.windows.find(LOG_ON))
+
+    def test_asks_as_if_there_were_none_when_the_keyring_stays_closed(self):
+        client = self.start_locked()
+        self.desktop.key('Escape')
+        self.answer(PASSWORD)
+        self.listed(client)
+
+    def test_lives_and_asks_itself_when_nobody_answers_the_keyring(self):
+        client = self.start_locked()
+        client.wait_docked()
+        self.assertTrue(client.tabs() or self.desktop.objects(client.process, showing=False))
+        self.desktop.wait_window(LOG_ON, seconds=60)
+
+    def test_ends_while_the_keyring_asks(self):
+        client = self.start_locked()
+        client.process.popen.terminate()
+        self.assertEqual(client.process.wait(10), 0)
 
 
 if __name__ == '__main__':

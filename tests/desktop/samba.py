@@ -4,6 +4,7 @@
 import contextlib
 import os
 import pathlib
+import re
 import signal
 import socket
 import subprocess
@@ -105,5 +106,13 @@ class Samba:
 
     def log_ons(self, status):
         """How many log-ons ended so: NT_STATUS_OK, NT_STATUS_WRONG_PASSWORD …"""
+        return len(self._log_ons(status))
+
+    def names(self, status):
+        """Who logged on so: domains and users as the clients wrote them, nobody but guests left out."""
+        found = (re.search(r' user \[(.*?)\]\\\[(.*?)\]', line) for line in self._log_ons(status))
+        return {match.groups() for match in found if match and match[2]}
+
+    def _log_ons(self, status):
         log = pathlib.Path(self.own / 'log').read_text(errors='replace')
-        return sum('Auth: [SMB2' in line and f'status [{status}]' in line for line in log.splitlines())
+        return [line for line in log.splitlines() if 'Auth: [SMB2' in line and f'status [{status}]' in line]

@@ -146,13 +146,18 @@ TEST(SmbLogOn, TellsOnceOfARefusedUser) {
     client.password = "wrong";
     for (int tick = 0; tick < 3; ++tick) {
         EXPECT_FALSE(client.files().FolderExists(onShare("")));
+        client.letPass(1h);
+        EXPECT_FALSE(client.files().FolderExists(onShare("")));
         client.servers().tryNow();
     }
     EXPECT_EQ(client.refused, 1);
+    EXPECT_EQ(samba.logOns("NT_STATUS_WRONG_PASSWORD"), 1);
     client.password = "wrong, too";
     client.servers().tryNow();
-    EXPECT_FALSE(client.files().FolderExists(onShare("")));
+    for (int tick = 0; tick < 3; ++tick)
+        EXPECT_FALSE(client.files().FolderExists(onShare("")));
     EXPECT_EQ(client.refused, 2);
+    EXPECT_EQ(samba.logOns("NT_STATUS_WRONG_PASSWORD"), 2);
 }
 
 TEST(SmbLogOn, TellsOnceOfAnAnonymousSessionThatMustNotHaveTheShare) {
