@@ -10,39 +10,9 @@ import unittest
 sys.dont_write_bytecode = True
 from client import OPEN, Client  # noqa: E402
 from desktop import wait_until  # noqa: E402
-from samba import PASSWORD  # noqa: E402
+from drill_scene import DrillScene  # noqa: E402
 from scene import FIRST  # noqa: E402
 from site_folder import mailbox_folder  # noqa: E402
-from smb_scene import SmbScene, helpers, status_of  # noqa: E402
-
-LOG = 'qmClient.log'
-NOT_CONNECTED = 'A connection to the server could not be established.'
-
-
-class DrillScene(SmbScene):
-    def setUp(self):
-        super().setUp()
-        self.write_credentials(PASSWORD)
-
-    def counts_on(self, client, calls):
-        """Three more calls are announced, and the list has them all."""
-        self.add_calls(FIRST, 3)
-        client.wait_popup(seconds=90)
-        client.wait_rows(calls + 3, seconds=90)
-        self.reports_nothing()
-
-    def wait_asked(self, requests=8):
-        """Until the server was asked so much as a few polls do."""
-        helper = helpers()[0]
-
-        def waits():
-            return int(status_of(helper, 'voluntary_ctxt_switches'))
-        before = waits()
-        wait_until(lambda: waits() >= before + requests, 'the client to ask', 30)
-
-    def reports_nothing(self):
-        found = [str(path) for path in self.desktop.folder.rglob(LOG)]
-        self.assertEqual(found, [], [open(path, encoding='utf-8').read() for path in found])
 
 
 class ServerDrillTest(DrillScene):

@@ -13,7 +13,7 @@ from desktop import wait_until  # noqa: E402
 from desktop.sound import RATE, likeness, message  # noqa: E402
 from play_scene import FAILED, PlayScene  # noqa: E402
 from samba import Samba  # noqa: E402
-from slow_line import SlowLine  # noqa: E402
+from relay import Relay  # noqa: E402
 
 SLOW = 40_000  # bytes a second: each request is answered in its time, a long message takes half a minute
 UNDER_WAY = 150_000  # bytes, of which a part was the message
@@ -34,7 +34,7 @@ class SmbPlayTest(PlayScene):
     def setUp(self):
         super().setUp()
         self.samba = Samba(self.desktop, self.share)
-        self.line = SlowLine(self.samba.port)
+        self.line = Relay(self.samba.port)
         self.addCleanup(self.line.close)
 
     def server_address(self):

@@ -10,22 +10,17 @@ from client import Client  # noqa: E402
 from desktop import wait_until  # noqa: E402
 from samba import PASSWORD  # noqa: E402
 from scene import FIRST, SECOND  # noqa: E402
-from smb_scene import SmbScene, helpers, parent, runs  # noqa: E402
+from smb_scene import SmbScene, helpers_of, runs  # noqa: E402
 
 
 class SmbTest(SmbScene):
-    def helper_of(self, client):
-        def ours():
-            return [pid for pid in helpers() if parent(pid) == client.process.pid]
-        return wait_until(ours, 'a qmshare process')
-
     def test_lists_and_announces_calls(self):
         client, _ = self.start_counting({FIRST: 12, SECOND: 3})
         self.add_calls(FIRST, 3)
         client.wait_popup(3)
         self.add_calls(SECOND, 2)
         client.wait_popup(5)
-        self.assertEqual(len(self.helper_of(client)), 1)
+        self.assertEqual(len(helpers_of(client)), 1)
 
     def test_counts_on_after_the_server_was_restarted(self):
         client, calls = self.start_counting({FIRST: 12})
@@ -64,7 +59,7 @@ class SmbTest(SmbScene):
 
     def test_leaves_no_process_behind_when_it_is_killed(self):
         client = self.start({FIRST: 12})
-        left = self.helper_of(client)
+        left = helpers_of(client)
         client.process.popen.kill()
         client.process.wait(10)
         wait_until(lambda: not any(map(runs, left)), 'qmshare to end')

@@ -24,7 +24,10 @@ class SmbScene(SceneTest):
         self.addCleanup(self.samba.go_on)  # a stopped process does not end
 
     def write_settings(self, numbers, **settings):
-        super().write_settings(numbers, share=self.samba.address, **settings)
+        super().write_settings(numbers, share=self.server_address(), **settings)
+
+    def server_address(self):
+        return self.samba.address
 
     def start_counting(self, calls):
         """As start(), with the first poll done, which learns the counts beside the list and says nothing."""
@@ -82,6 +85,11 @@ def helpers():
                 if comm.read() == 'qmshare\n':
                     found.append(int(name))
     return found
+
+
+def helpers_of(client):
+    """Those of one client, once there is one."""
+    return wait_until(lambda: [pid for pid in helpers() if parent(pid) == client.process.pid], 'a qmshare process')
 
 
 def status_of(pid, name):

@@ -1,0 +1,64 @@
+# SPDX-FileCopyrightText: 2026 The qmClient authors
+# SPDX-License-Identifier: GPL-3.0-or-later
+"""The server dies, or the line is cut, at each kind of request that the real client makes."""
+import re
+import sys
+import unittest
+
+sys.dont_write_bytecode = True
+from drill_scene import RelayedDrillScene  # noqa: E402
+from relay import (CLOSE, CREATE, NAMES, NEGOTIATE, QUERY_INFO, READ, SESSION_SETUP,  # noqa: E402
+                   TREE_CONNECT)
+from scene import FIRST  # noqa: E402
+
+# Of polls; the last ones of each may belong to the next.
+OF_A_POLL = [(CREATE, number) for number in (1, 2, 3, 4)] + [(QUERY_INFO, 1)] + [
+    (READ, number) for number in (1, 2, 3, 5)] + [(CLOSE, number) for number in (1, 2, 3)]
+OF_A_CONNECTION = [(NEGOTIATE, 1), (SESSION_SETUP, 1), (SESSION_SETUP, 2), (TREE_CONNECT, 1)]
+LARGE = 10000  # calls, whose list takes many requests
+OF_A_LIST = [(READ, number) for number in (10, 15, 40)] + [(CREATE, 4), (CLOSE, 4)]
+
+
+class CutTest(RelayedDrillScene):
+    def drill(self, calls, cases, provoke=lambda: 0, first=lambda: None, afterwards=lambda: None):
+        """Each case in turn on one client; provoke() answers how many calls it added. Another comes after each."""
+        client, calls = self.start_counting({FIRST: calls})
+        start = calls
+        for command, number in cases:
+            with self.subTest(NAMES[command], number=number):
+                self.line.cut_at(command, number, first)
+                calls += provoke()
+                self.line.wait_for_it()
+                afterwards()
+                self.add_calls(FIRST, 1)
+                calls += 1
+                client.wait_rows(calls, seconds=60)
+        self.assertEqual(int(re.search('[0-9]+', client.wait_popup())[0]), calls - start)
+        self.reports_nothing()
+
+    def one_more_call(self):
+        self.add_calls(FIRST, 1)
+        return 1
+
+    def cut(self):
+        self.line.cut()
+        return 0
+
+    def test_the_server_is_killed_in_a_poll(self):
+        self.drill(12, OF_A_POLL, first=self.samba.kill, afterwards=self.samba.start)
+
+    def test_the_line_is_cut_in_a_poll(self):
+        self.drill(12, OF_A_POLL)
+
+    def test_the_server_is_killed_while_the_client_connects(self):
+        self.drill(12, OF_A_CONNECTION, self.cut, self.samba.kill, self.samba.start)
+
+    def test_the_line_is_cut_while_the_client_connects(self):
+        self.drill(12, OF_A_CONNECTION, self.cut)
+
+    def test_the_line_is_cut_while_a_list_is_read(self):
+        self.drill(LARGE, OF_A_LIST, self.one_more_call)
+
+
+if __name__ == '__main__':
+    unittest.main(verbosity=2)
