@@ -6,9 +6,11 @@ import sys
 import unittest
 
 sys.dont_write_bytecode = True
+from client import CONFIG, Client  # noqa: E402
 from drill_scene import RelayedDrillScene  # noqa: E402
-from relay import (CLOSE, CREATE, NAMES, NEGOTIATE, QUERY_INFO, READ, SESSION_SETUP,  # noqa: E402
-                   TREE_CONNECT)
+from options import Options  # noqa: E402
+from relay import (CLOSE, CREATE, NAMES, NEGOTIATE, QUERY_DIRECTORY, QUERY_INFO, READ,  # noqa: E402
+                   SESSION_SETUP, TREE_CONNECT)
 from scene import FIRST  # noqa: E402
 
 # Of polls; the last ones of each may belong to the next.
@@ -58,6 +60,28 @@ class CutTest(RelayedDrillScene):
 
     def test_the_line_is_cut_while_a_list_is_read(self):
         self.drill(LARGE, OF_A_LIST, self.one_more_call)
+
+    def look_for_mailboxes(self, first=lambda: None):
+        self.add_calls(FIRST, 12)
+        self.write_settings((FIRST,))
+        client = Client(self.desktop)
+        client.open()
+        client.wait_rows(12)
+        client.hide()
+        self.line.cut_at(QUERY_DIRECTORY, 1, first)
+        client.choose(CONFIG)
+        self.line.wait_for_it()
+        return Options(client)
+
+    def test_the_server_is_killed_while_the_options_look_for_mailboxes(self):
+        options = self.look_for_mailboxes(self.samba.kill)
+        self.samba.start()
+        options.wait_mailboxes([FIRST])
+        self.reports_nothing()
+
+    def test_the_line_is_cut_while_the_options_look_for_mailboxes(self):
+        self.look_for_mailboxes().wait_mailboxes([FIRST])
+        self.reports_nothing()
 
 
 if __name__ == '__main__':
