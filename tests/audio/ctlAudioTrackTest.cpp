@@ -154,5 +154,35 @@ TEST_F(PlayerTest, DrawsTheTracksEdgeOnlyWhileThereIsAPosition) {
                 ElementsAre("no clip", "Cls", "DrawEdge 3,3-397,12 edge 2 flags 15", "clip 1,1-399,14"));
 }
 
+// The track is 4,4 to 396,11; its edge is the line around it.
+TEST_F(PlayerTest, ShowsTheTracksEdgeToThePixelWhileThereIsAPosition) {
+    QPalette colours;
+    colours.setColor(QPalette::Dark, Qt::blue);
+    colours.setColor(QPalette::Light, Qt::red);
+    colours.setColor(QPalette::Window, Qt::gray);
+    player->setPalette(colours);
+    const auto row = [this](int y) {
+        const QImage shown = player->grab().toImage();
+        std::string text;
+        for (const int x : {2, 3, 4, 395, 396, 397}) {
+            const QColor colour = shown.pixelColor(x, y);
+            text += colour == Qt::blue ? 'd' : colour == Qt::red ? 'l' : colour == Qt::gray ? '.' : 't';
+        }
+        return text;
+    };
+    EXPECT_EQ(row(3), "......");
+    play();
+    sound.position = 5;
+    tick();
+    EXPECT_EQ(row(2), "......");
+    EXPECT_EQ(row(3), ".dddl.");
+    EXPECT_EQ(row(4), ".dttl.");
+    EXPECT_EQ(row(10), ".dttl.");
+    EXPECT_EQ(row(11), ".llll.");
+    EXPECT_EQ(row(12), "......");
+    player->StopPlay();
+    EXPECT_EQ(row(3), "......");
+}
+
 } // namespace
 } // namespace audio
