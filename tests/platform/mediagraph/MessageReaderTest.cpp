@@ -164,8 +164,8 @@ TEST(MessageReader, GivesUpOnAServerThatStopsAnswering) {
               "m.wav: the server does not answer. The message could not be read.");
     EXPECT_GT(waiting.passes, 0);
     gate->open();
-    gate->awaitLeaving(); // the thread that was left behind closes its file
-    EXPECT_EQ(gate->reads, 1) << "read on for nobody";
+    gate->awaitLeaving();                              // the thread that was left behind closes its file
+    EXPECT_LE(gate->reads, 1) << "read on for nobody"; // none, where the thread came late
 }
 
 TEST(MessageReader, GivesUpWhenItTakesTooLongAltogether) {
