@@ -148,6 +148,20 @@ protected:
     share::MemoryFile m_file{callLogDatabase(5)};
 };
 
+// Whoever wrote such a list did not mean this index.
+TEST_F(OldMapPage, PagesOfAnIndexThatDoesNotListItsRootAreNotFreed) {
+    const RealIndex index = definitionOf(m_file, kLog).realIndexes.front();
+    WriteCache cache(m_file);
+    PageAllocator allocator(cache);
+    UsageMapWriter map(cache, allocator, index.usageMap);
+    const PageNumber listed = allocator.allocate();
+    map.add(listed);
+    map.remove(index.root);
+    cache.flush();
+    emptyLog(m_file);
+    EXPECT_FALSE(isFree(m_file, listed));
+}
+
 TEST_F(OldMapPage, IsFreed) {
     const PageNumber old = page();
     emptyLog(m_file);

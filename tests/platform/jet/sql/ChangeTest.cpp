@@ -9,6 +9,7 @@
 #include <gmock/gmock.h>
 
 #include <filesystem>
+#include <set>
 
 namespace jet::test {
 namespace {
@@ -139,6 +140,12 @@ TEST_F(ChangeTest, BadStatementInATransactionFailsWhenExecuted) {
     EXPECT_EQ(m_database.rowCount(), 0U);
 }
 
+TEST_F(ChangeTest, DeleteOfSomeRowsIsRefusedAndTakesNone) {
+    const FileImage before = m_database.bytes();
+    EXPECT_ERROR(basic::kProviderFailure, execute("DELETE FROM CallLog WHERE ID=1"));
+    EXPECT_EQ(m_database.bytes(), before);
+}
+
 TEST_F(ChangeTest, DeleteOfAnEmptyTableWritesNothing) {
     execute(kDelete);
     const FileImage before = m_database.bytes();
@@ -148,13 +155,13 @@ TEST_F(ChangeTest, DeleteOfAnEmptyTableWritesNothing) {
 
 class OtherUser {
 public:
-    explicit OtherUser(std::unique_ptr<share::File> lockFile) : m_file(std::move(lockFile)) {
-        constexpr std::size_t kUser = 3;
+    explicit OtherUser(std::unique_ptr<share::File> lockFile, std::size_t user = 3)
+        : m_file(std::move(lockFile)) {
         std::array<std::byte, 64> entry{};
         std::ranges::copy(std::as_bytes(std::span("RECEPTION")), entry.begin());
         std::ranges::copy(std::as_bytes(std::span("operator")), entry.begin() + 32);
-        m_file->write((kUser - 1) * entry.size(), entry);
-        EXPECT_TRUE(m_file->lock(0x10000000 + kUser, 1, share::LockKind::Exclusive));
+        m_file->write((user - 1) * entry.size(), entry);
+        EXPECT_TRUE(m_file->lock(0x10000000 + user, 1, share::LockKind::Exclusive));
     }
     void leave() { m_file.reset(); }
 
@@ -172,6 +179,27 @@ TEST_F(ChangeTest, SomebodyInsideIsNamedAndNothingIsChanged) {
     m_connection.RollbackTrans();
     EXPECT_THAT(failureOf(kDelete), HasSubstr("operator on RECEPTION"));
     EXPECT_EQ(m_database.bytes(), before);
+}
+
+TEST_F(ChangeTest, LastOfAllUsersIsNamedToo) {
+    const OtherUser other(openLockFile(share::OpenMode::Create), 255);
+    EXPECT_THAT(failureOf(kDelete), HasSubstr("operator on RECEPTION"));
+}
+
+TEST_F(ChangeTest, BytesOfANameThatAreNoTextAreNotShown) {
+    const OtherUser other(openLockFile(share::OpenMode::Create));
+    share::LocalFile::open(m_database.lockFilePlace(), share::OpenMode::ReadWrite)
+        ->write(2 * 64, std::as_bytes(std::span("R\n\xFC"))); // over the computer's name
+    EXPECT_THAT(failureOf(kDelete), HasSubstr("operator on R??,"));
+}
+
+TEST(SharingWait, PausesDifferWithinTheirLimits) {
+    std::set<std::chrono::milliseconds> seen;
+    for (int i = 0; i < 200; ++i)
+        seen.insert(SharingWait::randomPause());
+    EXPECT_GE(*seen.begin(), SharingWait::kShortest);
+    EXPECT_LE(*seen.rbegin(), SharingWait::kLongest);
+    EXPECT_GT(seen.size(), 20U);
 }
 
 TEST_F(ChangeTest, WaitsUntilTheOtherOneLeaves) {
