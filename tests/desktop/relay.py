@@ -9,10 +9,14 @@ import threading
 from desktop import wait_until
 
 # Commands, as [MS-SMB2] numbers them.
-NEGOTIATE, SESSION_SETUP, TREE_CONNECT, CREATE, CLOSE, READ, QUERY_DIRECTORY, QUERY_INFO = 0, 1, 3, 5, 6, 8, 14, 16
-NAMES = {NEGOTIATE: 'NEGOTIATE', SESSION_SETUP: 'SESSION_SETUP', TREE_CONNECT: 'TREE_CONNECT', CREATE: 'CREATE',
-         CLOSE: 'CLOSE', READ: 'READ', QUERY_DIRECTORY: 'QUERY_DIRECTORY', QUERY_INFO: 'QUERY_INFO'}
+NEGOTIATE, SESSION_SETUP, TREE_CONNECT, CREATE, CLOSE, READ, WRITE = 0, 1, 3, 5, 6, 8, 9
+QUERY_DIRECTORY, QUERY_INFO = 14, 16
+ANY = None
+NAMES = {ANY: 'of any kind', NEGOTIATE: 'NEGOTIATE', SESSION_SETUP: 'SESSION_SETUP', TREE_CONNECT: 'TREE_CONNECT',
+         CREATE: 'CREATE', CLOSE: 'CLOSE', READ: 'READ', WRITE: 'WRITE', QUERY_DIRECTORY: 'QUERY_DIRECTORY',
+         QUERY_INFO: 'QUERY_INFO'}
 
+_NOTHING, _REQUEST, _ANSWER = range(3)  # what is lost
 _FRAME = 4  # bytes before each message: 0, then its length in three bytes
 _COMMAND, _NEXT = 12, 20  # offsets in a message's header: its command, and that of the next one in the packet
 _SMB2 = b'\xfeSMB'
@@ -30,7 +34,8 @@ class Relay:
         self._bytes_per_second = None  # nothing at all
         self._ends = set()  # sockets of living connections
         self._forgotten = set()  # those of connections that nothing comes through any more
-        self._trap = None  # command, which of those to come, what happens then, whether it is cut
+        self._unanswered = set()  # the servers' sockets whose next answer is lost
+        self._trap = None  # command, which of those to come, what happens then, what is lost
         self._sprung = threading.Event()
         self._requests = self._bytes = 0
         self.passed = 0  # bytes from the server to the client since slow()
@@ -82,11 +87,15 @@ class Relay:
 
         The server does not get it; what is to happen first happens before the client notices anything.
         """
-        self._set_trap(command, number, first, True)
+        self._set_trap(command, number, first, _REQUEST)
+
+    def cut_answer_at(self, command, number):
+        """As cut_at(), but the server gets the request; its answer is what does not arrive."""
+        self._set_trap(command, number, lambda: None, _ANSWER)
 
     def do_at(self, command, number, happens):
         """As cut_at(), but the request goes its way afterwards."""
-        self._set_trap(command, number, happens, False)
+        self._set_trap(command, number, happens, _NOTHING)
 
     def _set_trap(self, *trap):
         with self._lock:
@@ -124,14 +133,18 @@ class Relay:
         with self._lock:
             self._ends.discard(source)
             self._forgotten.discard(source)
+            self._unanswered.discard(source)
         source.close()
 
     def _hand_on_requests(self, client, server):
         with client.makefile('rb') as stream:
             while len(frame := stream.read(_FRAME)) == _FRAME:
                 message = stream.read(struct.unpack('>I', frame)[0] & 0xffffff)
-                if self._is_cut_at(message):
+                lost = self._lost_with(message)
+                if lost == _REQUEST:
                     return
+                if lost == _ANSWER:
+                    self._unanswered.add(server)
                 if client not in self._forgotten:
                     server.sendall(frame + message)
 
@@ -142,25 +155,28 @@ class Relay:
                 self.passed += len(piece)
             with self._lock:
                 self._bytes += len(piece)
+            if server in self._unanswered:
+                return
             if server not in self._forgotten:
                 client.sendall(piece)
 
-    def _is_cut_at(self, message):
+    def _lost_with(self, message):
         commands = _commands(message)
         sprung = None
         with self._lock:
             self._requests += max(len(commands), 1)
             self._bytes += _FRAME + len(message)
             if self._trap:
-                self._trap[1] -= commands.count(self._trap[0])
+                wanted = self._trap[0]
+                self._trap[1] -= max(len(commands), 1) if wanted == ANY else commands.count(wanted)
                 if self._trap[1] <= 0:
                     sprung, self._trap = self._trap, None
         if sprung is None:
-            return False
-        _, _, happens, is_cut = sprung
+            return _NOTHING
+        _, _, happens, lost = sprung
         happens()
         self._sprung.set()
-        return is_cut
+        return lost
 
 
 def _commands(message):
