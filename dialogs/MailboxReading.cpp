@@ -35,7 +35,15 @@ FoundMailboxes MailboxReading::read(const std::string& folder) {
 }
 
 std::vector<std::string> MailboxReading::subFolders(const std::string& folder) {
-    return m_files.FolderExists(folder) ? m_files.SubFolders(folder) : std::vector<std::string>();
+    if (!m_files.FolderExists(folder))
+        return {};
+    try {
+        return m_files.SubFolders(folder);
+    } catch (const basic::RuntimeError&) {
+        if (!comesBack(folder))
+            throw;
+    }
+    return m_files.SubFolders(folder);
 }
 
 void MailboxReading::readInto(FoundMailboxes& found, const std::string& folder, std::int32_t number) {
@@ -62,12 +70,14 @@ bool MailboxReading::isOpen(jet::Connection& connection, const std::string& data
 }
 
 bool MailboxReading::wasAway(const std::string& folder) {
-    if (m_files.FolderExists(folder))
-        return false;
+    return !m_files.FolderExists(folder) && comesBack(folder);
+}
+
+bool MailboxReading::comesBack(const std::string& folder) {
     for (int look = 0; look < kLooks && !m_surroundings.isCancelled(); ++look) {
-        m_surroundings.sleep(kLook);
         if (m_files.FolderExists(folder))
             return true;
+        m_surroundings.sleep(kLook);
     }
     m_isGone = true;
     return false;

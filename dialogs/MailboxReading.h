@@ -40,6 +40,8 @@ private:
     bool isOpen(jet::Connection& connection, const std::string& database);
     // Whether the server could not be reached and can be again.
     bool wasAway(const std::string& folder);
+    // Whether it can be reached, now or soon.
+    bool comesBack(const std::string& folder);
 
     share::FileSystemObject& m_files;
     Surroundings m_surroundings;

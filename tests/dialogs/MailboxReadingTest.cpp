@@ -68,9 +68,9 @@ TEST_F(MailboxReadingTest, ANameThatIsNoPathIsAServerWithoutMailboxes) {
 }
 
 TEST_F(MailboxReadingTest, AFolderThatCannotBeListedIsAFailure) {
-    bool isAsked = false;
-    beforeEachQuestion = [&] {
-        if (std::exchange(isAsked, true))
+    int asked = 0;
+    beforeEachQuestion = [&] { // every second one is for the list
+        if (++asked % 2 == 0)
             throw basic::RuntimeError(basic::kPermissionDenied);
     };
     const FoundMailboxes found = read();
@@ -83,6 +83,23 @@ TEST_F(MailboxReadingTest, EndsBeforeTheNextMailboxWhenItIsCancelled) {
     mailbox("12");
     onProgress = [this](int) { isCancelled = true; };
     EXPECT_THAT(numbers(read()), ElementsAre(7));
+}
+
+TEST_F(MailboxReadingTest, AServerThatGoesAwayBeforeItListsTheFoldersIsWaitedFor) {
+    mailbox("7");
+    int asked = 0;
+    beforeEachQuestion = [&] {
+        if (++asked != 2)
+            return;
+        takeShareAway();
+        throw basic::RuntimeError(basic::kPathNotFound);
+    };
+    onSleep = [this] {
+        if (sleeps == 3)
+            bringShareBack();
+    };
+    EXPECT_THAT(numbers(read()), ElementsAre(7));
+    EXPECT_EQ(sleeps, 3);
 }
 
 TEST_F(MailboxReadingTest, AServerThatGoesAwayIsWaitedFor) {
