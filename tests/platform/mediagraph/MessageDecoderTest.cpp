@@ -158,7 +158,7 @@ TEST(MessageDecoder, TrimsTheFillingOfTheLastBlock) {
 TEST(MessageDecoder, IgnoresACountWrittenBeforeTheSoundWas) {
     auto file = fileOf({"gsm", SF_FORMAT_GSM610, 8000, 1}, 1);
     const std::size_t fact = placeOf("fact", file);
-    for (const std::uint32_t count : {0U, 320U, 0xFFFFFFFFU}) {
+    for (const std::uint32_t count : {0U, 320U, 8000U - 320U, 0xFFFFFFFFU}) {
         setNumber(file, fact + 8, count);
         EXPECT_EQ(decodeMessage(file, "m.wav").frames(), 8000U) << count;
     }

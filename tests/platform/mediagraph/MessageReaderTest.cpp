@@ -12,6 +12,7 @@
 #include <condition_variable>
 #include <filesystem>
 #include <mutex>
+#include <semaphore>
 #include <thread>
 
 namespace mediagraph::testing {
@@ -239,6 +240,66 @@ TEST(MessageReader, WaitsNoLongerWhenTheProgramEnds) {
     EXPECT_EQ(waiting.passes, 3);
     gate->open();
     gate->awaitLeaving();
+}
+
+// A server on a slow line: each piece comes after some turns of the wait, all of them after the time that a
+// server may take without an answer.
+using Turns = std::counting_semaphore<>;
+
+class SlowWait final : public Waiting {
+public:
+    explicit SlowWait(std::shared_ptr<Turns> turns) : m_turns(std::move(turns)) {}
+    bool pass(milliseconds time) override {
+        if (++m_passes % 15 == 0)
+            m_turns->release();
+        return SleepWaiting().pass(time);
+    }
+
+private:
+    std::shared_ptr<Turns> m_turns;
+    int m_passes = 0;
+};
+
+class SlowFiles final : public share::FileSystemObject {
+    class SlowFile final : public share::File {
+    public:
+        explicit SlowFile(std::shared_ptr<Turns> turns) : m_turns(std::move(turns)) {}
+        const std::string& name() const override { return m_name; }
+        std::uint64_t size() override { return 1'000'000; } // sixteen pieces
+        std::size_t read(std::uint64_t, std::span<std::byte> into) override {
+            m_turns->acquire();
+            return into.size();
+        }
+        void write(std::uint64_t, std::span<const std::byte>) override {}
+        void sync() override {}
+        bool lock(std::uint64_t, std::uint64_t, share::LockKind) override { return true; }
+        void unlock(std::uint64_t, std::uint64_t) override {}
+
+    private:
+        std::shared_ptr<Turns> m_turns;
+        std::string m_name = "slow";
+    };
+
+public:
+    explicit SlowFiles(std::shared_ptr<Turns> turns) : m_turns(std::move(turns)) {}
+    bool FileExists(std::string_view) override { return true; }
+    bool FolderExists(std::string_view) override { return true; }
+    std::vector<std::string> SubFolders(std::string_view) override { return {}; }
+    void DeleteFile(std::string_view, bool) override {}
+    std::unique_ptr<share::File> openFile(std::string_view, share::OpenMode) override {
+        return std::make_unique<SlowFile>(m_turns);
+    }
+
+private:
+    std::shared_ptr<Turns> m_turns;
+};
+
+TEST(MessageReader, StaysWithAServerThatIsSlowButGoesOn) {
+    const auto turns = std::make_shared<Turns>(0);
+    SlowWait waiting(turns);
+    MessageReader reader([turns] { return std::make_unique<SlowFiles>(turns); }, waiting,
+                         {std::chrono::seconds{2}, std::chrono::minutes{10}});
+    EXPECT_EQ(reader.read("m.wav").size(), 1'000'000U);
 }
 
 TEST(MessageReader, LetsTheCallerLiveOnWhileItReads) {

@@ -103,6 +103,14 @@ TEST_F(PlaybackDesk, SaysThatASoundDidNotStart) {
     EXPECT_EQ(errorTextOf([&] { desk.position(); }), "The sound did not start within five seconds.");
 }
 
+TEST_F(PlaybackDesk, SaysThatASoundDidNotStartAgain) {
+    desk.moved(playing(), 1);
+    desk.want(PlayState::Paused);
+    desk.want(PlayState::Playing);
+    now += std::chrono::seconds{6};
+    EXPECT_EQ(errorTextOf([&] { desk.position(); }), "The sound did not start within five seconds.");
+}
+
 TEST_F(PlaybackDesk, ForgetsTheEndWhenItIsStoppedOrSentElsewhere) {
     desk.ended(playing(), EventCode::Complete);
     desk.seek(0);
