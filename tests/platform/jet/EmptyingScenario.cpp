@@ -80,6 +80,10 @@ FileImage twoPageDatabase(int calls) {
     return databaseOf(withColumns(60, "AColumnWithALongNameOfItsOwn"), calls);
 }
 
+FileImage threePageDatabase(int calls) {
+    return databaseOf(withColumns(120, "AColumnWithALongNameOfItsOwn"), calls);
+}
+
 FileImage fullMapDatabase() {
     constexpr PageNumber kPages = 512; // of an inline map
     FileImage image = callLogDatabase(6);

@@ -23,6 +23,8 @@ FileImage refilledDatabase(int calls);
 FileImage wideDatabase(int calls);
 // With so many columns that they lie on a second page.
 FileImage twoPageDatabase(int calls);
+// On a third one, so that of the pages which change one points to the next.
+FileImage threePageDatabase(int calls);
 // With so many pages that the map of free pages has to change its kind for the next one.
 FileImage fullMapDatabase();
 

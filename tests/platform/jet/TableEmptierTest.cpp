@@ -136,6 +136,36 @@ TEST(TableEmptier, FreesThePagesOfTheDefinitionThatItReplaced) {
     EXPECT_TRUE(isFree(file, old));
 }
 
+TEST(TableEmptier, LinksSeveralReplacedPagesOfTheDefinition) {
+    share::MemoryFile file(threePageDatabase(3));
+    const TableDefinition before = definitionOf(file, kLog);
+    ASSERT_EQ(before.pages.size(), 3U);
+    emptyLog(file);
+    const TableDefinition after = definitionOf(file, kLog);
+    EXPECT_EQ(after.columns.size(), before.columns.size());
+    EXPECT_TRUE(TableEmptier(file, kLog).isDone());
+    EXPECT_NO_THROW(checkDatabase(file));
+    for (std::size_t i = 1; i < before.pages.size(); ++i)
+        EXPECT_EQ(isFree(file, before.pages[i]), after.pages[i] != before.pages[i]);
+    EXPECT_NE(after.pages.back(), before.pages.back());
+}
+
+// Sound databases have such entries: one of the two maps is said to be on page 0.
+TEST(TableEmptier, PassesOverABrokenEntryOfLongValues) {
+    share::MemoryFile file(callLogDatabase(5));
+    const TableDefinition log = definitionOf(file, kLog);
+    ASSERT_FALSE(log.longValueMaps.empty());
+    FileImage image = file.bytes();
+    const std::size_t end = ByteView(log.bytes, {}).u32(format::definition::kLength);
+    constexpr std::size_t kLastPointer = 6; // before the end, behind it the mark of the list's end
+    ByteEditor(image).put32(log.page() * format::page::kSize + end - kLastPointer, 0);
+    share::MemoryFile broken(image);
+    ASSERT_TRUE(definitionOf(broken, kLog).longValueMaps.back().isBroken());
+    emptyLog(broken);
+    EXPECT_TRUE(readRows(broken, kLog).empty());
+    EXPECT_TRUE(TableEmptier(broken, kLog).isDone());
+}
+
 // The table's maps of rows and indexes are on a page of their own after the first delete.
 class OldMapPage : public ::testing::Test {
 protected:
