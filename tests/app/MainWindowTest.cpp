@@ -3,6 +3,7 @@
 #include "tests/app/MainWorld.h"
 
 #include <QScreen>
+#include <QTest>
 
 namespace app {
 namespace {
@@ -55,6 +56,17 @@ TEST_F(MainWindowTest, StartsHiddenAndItsCloseBoxHidesIt) {
     mailbox(12).append(1);
     tick();
     EXPECT_EQ(popupText(), "You have  1  new calls");
+}
+
+TEST_F(MainWindowTest, ActivationHasThePlayerDockedAnew) {
+    configure({12});
+    mailbox(12).append(1);
+    load();
+    tick();
+    ASSERT_FALSE(window->state().redock);
+    window->showWindow();
+    EXPECT_TRUE(QTest::qWaitForWindowActive(&*window));
+    EXPECT_TRUE(window->state().redock);
 }
 
 TEST_F(MainWindowTest, StandsInTheMiddleOfTheScreenBeforeItIsFirstShown) {

@@ -173,6 +173,17 @@ class StatusNotifierTest(unittest.TestCase):
             desktop.tray.notifier.ask('choose', label='Settings')
             program.wait_line('MenuClick 1 config')
 
+    def test_a_panel_without_menus_gets_the_menu_at_the_place_that_it_names(self):
+        with Desktop(tray='sni') as desktop:
+            program = TrayProgram(desktop)
+            wait_icons(desktop)
+            desktop.tray.notifier.ask('context_menu', x=300, y=200)
+            menu = wait_until(lambda: menu_window(desktop, program), 'the menu')
+            self.assertEqual((menu.x, menu.y), (300, 200))
+            wait_until(lambda: program.events() == RIGHT, 'the events of a right click')
+            desktop.key('Down', 'Down', 'Return')
+            program.wait_line('MenuClick 1 config')
+
     def test_the_exported_menu_follows_changes(self):
         with Desktop(tray='sni') as desktop:
             program = TrayProgram(desktop)

@@ -89,6 +89,11 @@ class Panel:
         self._call(self._items[0][2], ITEM, 'Activate', GLib.Variant('(ii)', (0, 0)))
         return True
 
+    def do_context_menu(self, x, y):
+        """As panels do that draw no menus of their own."""
+        self._call(self._items[0][2], ITEM, 'ContextMenu', GLib.Variant('(ii)', (x, y)))
+        return True
+
     def do_menu(self):
         """[(id, label, enabled, type), …] as published, underscores of access keys taken out."""
         menu = self._menu_path()
