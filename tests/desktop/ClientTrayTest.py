@@ -36,7 +36,6 @@ class EmbeddedTest(SceneTest):
             client.wait_docked()
         client.open()
         client.wait_rows(3)
-        client.hide()
         client.choose(CLOSE)
         self.assertEqual(client.process.wait(15), 0)
         self.assertEqual(client.process.errors(), '')
