@@ -1,7 +1,10 @@
 # SPDX-FileCopyrightText: 2026 The qmClient authors
 # SPDX-License-Identifier: GPL-3.0-or-later
 """The real client asks who logs on to a server that knows no guests: once, and tries nothing twice by itself."""
+import os
 import pathlib
+import resource
+import signal
 import sys
 import unittest
 
@@ -129,6 +132,16 @@ class LogOnTest(LogOnScene):
         for pid in (client.process.pid, *helpers()):
             for what in ('cmdline', 'environ'):
                 self.assertNotIn(secret, pathlib.Path(f'/proc/{pid}/{what}').read_bytes())
+
+    def test_leaves_no_core_file_once_a_password_was_typed(self):
+        client = self.start_refused()
+        self.answer(PASSWORD)
+        client.open()
+        client.wait_rows(12)
+        resource.prlimit(client.process.pid, resource.RLIMIT_CORE, (resource.RLIM_INFINITY,) * 2)
+        os.kill(client.process.pid, signal.SIGSEGV)
+        end = os.waitid(os.P_PID, client.process.pid, os.WEXITED | os.WNOWAIT)
+        self.assertEqual((end.si_status, end.si_code), (signal.SIGSEGV, os.CLD_KILLED))  # and not CLD_DUMPED
 
     def test_asks_and_counts_on_when_the_password_is_changed(self):
         self.write_credentials(PASSWORD)
