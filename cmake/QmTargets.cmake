@@ -3,10 +3,11 @@
 #
 #   qm_library(NAME [QT] SOURCES … [LINKS …])            one static library per folder
 #   qm_program(NAME [QT] SOURCES … [LINKS …])            one program in build/<preset>/bin
-#   qm_test(NAME [QT] SOURCES … [LINKS …] [LABELS …])    one GoogleTest program, a CTest entry per test
+#   qm_test(NAME [QT] [ALONE] SOURCES … [LINKS …] [LABELS …])    one GoogleTest program, a CTest entry per test
 #
 # QT switches on moc, rcc and Qt's strict defines. A test with QT brings its own main() (it needs an
 # application object); any other gets GoogleTest's. Tests without LABELS are labelled "unit".
+# Nothing else runs beside a test that is ALONE.
 
 include(GoogleTest)
 
@@ -33,7 +34,7 @@ function(qm_program name)
 endfunction()
 
 function(qm_test name)
-  cmake_parse_arguments(PARSE_ARGV 1 arg "QT" "" "SOURCES;LINKS;LABELS")
+  cmake_parse_arguments(PARSE_ARGV 1 arg "QT;ALONE" "" "SOURCES;LINKS;LABELS")
   add_executable(${name} ${arg_SOURCES})
   qm_settings_for_(${name} ${arg_QT} ${arg_LINKS} GTest::gmock)
   if(NOT arg_QT)
@@ -43,7 +44,7 @@ function(qm_test name)
     set(arg_LABELS unit)
   endif()
   gtest_discover_tests(${name} TEST_PREFIX "${name}." DISCOVERY_TIMEOUT 60
-    PROPERTIES LABELS "${arg_LABELS}" TIMEOUT 120)
+    PROPERTIES LABELS "${arg_LABELS}" TIMEOUT 120 RUN_SERIAL "$<BOOL:${arg_ALONE}>")
 endfunction()
 
 # qm_provocations(SOURCES … [LINKS …]) adds a subsystem's provocations (tests/errors/Provocation.h) to the test
