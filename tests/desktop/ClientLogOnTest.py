@@ -241,6 +241,7 @@ class LockedTest(KeyringScene):
     def test_asks_as_if_there_were_none_when_the_keyring_stays_closed(self):
         client = self.start_locked()
         self.desktop.key('Escape')
+        self.wait_question(seconds=15)  # sooner than without any word of the keyring
         self.answer(PASSWORD)
         self.listed(client)
 
