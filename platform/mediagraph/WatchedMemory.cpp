@@ -2,8 +2,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "platform/mediagraph/WatchedMemory.h"
 
-#include "platform/mediagraph/GstRef.h"
-
 #include <memory>
 #include <utility>
 
@@ -55,9 +53,9 @@ GstAllocator* newAllocator() {
 } // namespace
 
 GstMemory* newWatchedMemory(std::span<const std::byte> bytes, std::function<void()> isRead) {
-    static const GstRef<GstAllocator> kAllocator(newAllocator());
+    static GstAllocator* const kAllocator = newAllocator(); // for ever: threads may outlast the program's end
     auto made = std::make_unique<WatchedMemory>(WatchedMemory{{}, bytes, std::move(isRead)});
-    gst_memory_init(&made->memory, GST_MEMORY_FLAG_READONLY, kAllocator.get(), nullptr, bytes.size(), 0, 0,
+    gst_memory_init(&made->memory, GST_MEMORY_FLAG_READONLY, kAllocator, nullptr, bytes.size(), 0, 0,
                     bytes.size());
     return &made.release()->memory;
 }
