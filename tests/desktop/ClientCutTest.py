@@ -1,7 +1,6 @@
 # SPDX-FileCopyrightText: 2026 The qmClient authors
 # SPDX-License-Identifier: GPL-3.0-or-later
 """The server dies, or the line is cut, at each kind of request that the real client makes."""
-import re
 import sys
 import unittest
 
@@ -35,7 +34,7 @@ class CutTest(RelayedDrillScene):
                 self.add_calls(FIRST, 1)
                 calls += 1
                 client.wait_rows(calls, seconds=60)
-        self.assertEqual(int(re.search('[0-9]+', client.wait_popup())[0]), calls - start)
+        client.wait_popup(calls - start, seconds=30)
         self.reports_nothing()
 
     def one_more_call(self):
