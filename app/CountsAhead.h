@@ -65,7 +65,7 @@ private:
     // The thread's own.
     share::smb::ThreadWaiter m_waiter;
     share::smb::SmbFileSystemObject m_files{m_servers, m_waiter};
-    jet::Engine m_engine{m_files};
+    jet::Engine m_engine{m_files, jet::Engine::sleepBriefly, {.tries = 1}}; // the next tick comes soon
     std::jthread m_thread; // last: what it uses must outlive it
 };
 

@@ -31,13 +31,27 @@ std::unique_ptr<share::File> Engine::openForReading(std::string_view path) {
     }
 }
 
+std::unique_ptr<share::File> Engine::openAgain(std::string_view path) {
+    for (int left = m_sharing.tries;; --left) {
+        try {
+            return openForReading(path);
+        } catch (const basic::RuntimeError& error) {
+            if (error.number() != basic::kPathNotFound || left <= 1)
+                throw;
+        }
+        m_sharing.sleep(SharingWait::randomPause());
+    }
+}
+
 // The header is one read and nothing else is looked at, so there is nothing to compare the words with.
 void Engine::checkDatabase(std::string_view path) {
     for (int attempt = 1;; ++attempt) {
         try {
-            const auto file = openForReading(path);
-            if (!DatabaseHeader::read(*file).commitWords.isWriting())
+            const auto file = attempt == 1 ? openForReading(path) : openAgain(path);
+            if (!DatabaseHeader::read(*file).commitWords.isWriting()) {
+                m_checked = path;
                 return;
+            }
             if (attempt == kMaxReadTries)
                 throw DatabaseBusy(*file);
         } catch (const share::ConnectionLost&) {

@@ -23,7 +23,7 @@ namespace jet {
 class Engine {
 public:
     // `pause` waits between two tries of a reading that a writer disturbed.
-    // `sharing` says how long a change waits for others to leave.
+    // `sharing` says how long a change waits for others to leave, and a reading for a server to come back.
     explicit Engine(share::FileSystemObject& files, ReadPause pause = sleepBriefly, SharingWait sharing = {});
     Engine(const Engine&) = delete;
     Engine& operator=(const Engine&) = delete;
@@ -37,7 +37,8 @@ public:
 
     // Opens the database, calls `read` with it and answers its result if nobody wrote meanwhile. Everything
     // that may come of a half-written page, errors and results, is tried again a bounded number of times;
-    // the last try's error is believed. The database is closed on return.
+    // the last try's error is believed. The database is closed on return. A path that is not found any more,
+    // in this reading or right after checkDatabase(), is a server that starts anew: it is waited for.
     template <typename Read>
     auto readDatabase(std::string_view path, Read&& read);
 
@@ -59,17 +60,23 @@ public:
 private:
     // Somebody who has the file to himself for a change is waited for, as a writer is.
     std::unique_ptr<share::File> openForReading(std::string_view path);
+    // The same for a file that was there a moment ago.
+    std::unique_ptr<share::File> openAgain(std::string_view path);
 
     share::FileSystemObject& m_files;
     ReadPause m_pause;
     SharingWait m_sharing;
     DatabaseUser m_self = DatabaseUser::ofThisMachine();
     std::map<std::string, CatalogHint, std::less<>> m_hints;
+    std::string m_checked; // the path of a check that no reading followed yet
 };
 
 template <typename Read>
 auto Engine::readDatabase(std::string_view path, Read&& read) {
-    const auto open = [&] { return Database(openForReading(path)); };
+    bool wasThere = std::exchange(m_checked, {}) == path;
+    const auto open = [&] {
+        return Database(std::exchange(wasThere, true) ? openAgain(path) : openForReading(path));
+    };
     return readConsistently(m_pause, open, std::forward<Read>(read));
 }
 

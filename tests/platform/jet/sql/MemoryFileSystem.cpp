@@ -2,8 +2,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "tests/platform/jet/sql/MemoryFileSystem.h"
 
-#include "platform/basic/RuntimeError.h"
-
 #include <algorithm>
 
 namespace jet::test {
@@ -56,6 +54,10 @@ std::uint16_t MemoryFileSystem::word(std::size_t offset) const {
 }
 
 std::unique_ptr<share::File> MemoryFileSystem::openFile(std::string_view path, share::OpenMode) {
+    if (failures > 0) {
+        --failures;
+        throw basic::RuntimeError(failure);
+    }
     if (path != kDatabase)
         throw basic::RuntimeError(basic::kFileNotFound);
     return std::make_unique<SharedFile>(*this, std::string(path));
