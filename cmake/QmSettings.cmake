@@ -34,6 +34,10 @@ target_compile_options(qm_settings INTERFACE
   -fstack-protector-strong)
 target_compile_definitions(qm_settings INTERFACE $<$<CONFIG:Release,RelWithDebInfo>:_FORTIFY_SOURCE=2>)
 
+# Enough for a stack with lines in it; compiling takes a fifth less time.
+option(QM_LINES_ONLY "Leave out the debugging information about variables and types" OFF)
+target_compile_options(qm_settings INTERFACE $<$<BOOL:${QM_LINES_ONLY}>:-g1>)
+
 if(QM_SANITIZE)
   target_compile_options(qm_settings INTERFACE
     -fsanitize=${QM_SANITIZE} -fno-sanitize-recover=all -fno-omit-frame-pointer)
