@@ -2,8 +2,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 // How long, and how, a change waits until nobody else is in the database: a number of tries with a pause of
-// random length between two, so that several who wait do not meet again and again. A reading waits as long for
-// a server that starts anew.
+// random length between two, so that several who wait do not meet again and again. A reading waits as long
+// for a server that starts anew.
 
 #include <chrono>
 #include <functional>
