@@ -1,13 +1,11 @@
 // SPDX-FileCopyrightText: 2026 The qmClient authors
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "platform/basic/RuntimeError.h"
-#include "platform/jet/Catalog.h"
-#include "platform/jet/PageReader.h"
-#include "platform/jet/TableDefinitionReader.h"
 #include "platform/jet/TableWriter.h"
 #include "tests/platform/jet/CrashStates.h"
 #include "tests/platform/jet/EmptyingScenario.h"
 #include "tests/platform/jet/ErrorNumberOf.h"
+#include "tests/platform/jet/StoredDefinition.h"
 #include "tests/platform/jet/WrittenDatabase.h"
 
 #include <gtest/gtest.h>
@@ -23,8 +21,7 @@ using namespace test;
 
 TableDefinition logOf(const FileImage& image) {
     share::MemoryFile file(image);
-    PageReader pages(file, 0);
-    return TableDefinitionReader(pages).read(Catalog(pages).find(kLog).definitionPage(), kLog);
+    return definitionOf(file, kLog);
 }
 
 // Every pointer that the switch changes lies in the first sector of the definition's page or on another page.

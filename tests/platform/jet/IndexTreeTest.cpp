@@ -2,13 +2,12 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "platform/jet/IndexTree.h"
 
-#include "platform/jet/Catalog.h"
 #include "platform/jet/IndexNodeEncoder.h"
 #include "platform/jet/IndexPage.h"
 #include "platform/jet/PageReader.h"
-#include "platform/jet/TableDefinitionReader.h"
 #include "platform/share/MemoryFile.h"
 #include "tests/platform/jet/ErrorNumberOf.h"
+#include "tests/platform/jet/StoredDefinition.h"
 #include "tests/platform/jet/WrittenDatabase.h"
 
 #include <gtest/gtest.h>
@@ -31,8 +30,7 @@ protected:
         createTable(m_file,
                     {.name = "T", .columns = {{.name = "A"}}, .indexes = {{.name = "I", .columns = {{"A"}}}}},
                     kCreated);
-        PageReader pages(m_file, 0);
-        m_table = TableDefinitionReader(pages).read(Catalog(pages).find("T").definitionPage(), "T");
+        m_table = definitionOf(m_file, "T");
     }
     void insert(const std::vector<KeyBytes>& keys) {
         WriteCache cache(m_file);
@@ -181,9 +179,7 @@ TEST_F(IndexTreeTest, RootKeepsItsPage) {
     for (std::uint32_t i = 0; i < 5000; ++i)
         keys.push_back(numberKey(i));
     insert(keys);
-    PageReader pages(m_file, 0);
-    EXPECT_EQ(TableDefinitionReader(pages).read(m_table.page(), "T").realIndexes[0].root,
-              m_table.realIndexes[0].root);
+    EXPECT_EQ(definitionOf(m_file, "T").realIndexes[0].root, m_table.realIndexes[0].root);
 }
 
 // Other writers leave the last leaf without an entry in the node above.

@@ -2,10 +2,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "platform/jet/TableDefinitionBuilder.h"
 
-#include "platform/jet/Catalog.h"
-#include "platform/jet/PageReader.h"
-#include "platform/jet/TableDefinitionReader.h"
 #include "tests/platform/jet/ErrorNumberOf.h"
+#include "tests/platform/jet/StoredDefinition.h"
 #include "tests/platform/jet/WrittenDatabase.h"
 
 #include <gmock/gmock.h>
@@ -128,9 +126,7 @@ protected:
 };
 
 TEST_F(WideTable, DefinitionTakesSeveralPages) {
-    PageReader pages(m_database.file(), 0);
-    const TableDefinition table =
-        TableDefinitionReader(pages).read(Catalog(pages).find("Wide").definitionPage(), "Wide");
+    const TableDefinition table = definitionOf(m_database.file(), "Wide");
     EXPECT_GT(table.pages.size(), 2U);
     ASSERT_EQ(table.columns.size(), 80U);
     for (std::size_t i = 0; i < 80; ++i)

@@ -1,11 +1,9 @@
 // SPDX-FileCopyrightText: 2026 The qmClient authors
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "platform/jet/Catalog.h"
-#include "platform/jet/PageReader.h"
-#include "platform/jet/TableDefinitionReader.h"
 #include "platform/jet/TableWriter.h"
 #include "platform/share/MemoryFile.h"
 #include "tests/platform/jet/ErrorNumberOf.h"
+#include "tests/platform/jet/StoredDefinition.h"
 #include "tests/platform/jet/WrittenDatabase.h"
 #include "tools/demo/CallLogTable.h"
 
@@ -80,19 +78,14 @@ void appendRows(share::File& file) {
     writer.flush();
 }
 
-PageNumber definitionPageOf(share::File& file) {
-    PageReader pages(file, 0);
-    return Catalog(pages).find("CallLog").definitionPage();
-}
-
 // The autonumber goes ahead of everything, the row count comes after everything.
 TEST(WriteOrder, DefinitionComesFirstAndLastAndEveryOtherPageOnce) {
     share::MemoryFile memory{filledDatabase()};
     FailingFile file(memory, 0);
     appendRows(file);
     ASSERT_GT(file.pages.size(), 9U);
-    EXPECT_EQ(file.pages.front(), definitionPageOf(memory));
-    EXPECT_EQ(file.pages.back(), definitionPageOf(memory));
+    EXPECT_EQ(file.pages.front(), definitionPageOf(memory, "CallLog"));
+    EXPECT_EQ(file.pages.back(), definitionPageOf(memory, "CallLog"));
     std::vector<PageNumber> sorted(file.pages.begin() + 1, file.pages.end());
     std::ranges::sort(sorted);
     EXPECT_TRUE(std::ranges::adjacent_find(sorted) == sorted.end());

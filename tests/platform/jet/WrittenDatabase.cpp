@@ -2,26 +2,17 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "tests/platform/jet/WrittenDatabase.h"
 
-#include "platform/jet/Catalog.h"
 #include "platform/jet/Checker.h"
-#include "platform/jet/PageReader.h"
-#include "platform/jet/TableDefinitionReader.h"
 #include "platform/jet/TableScan.h"
 #include "platform/jet/TableWriter.h"
 #include "platform/jet/ValueDecoder.h"
+#include "tests/platform/jet/StoredDefinition.h"
 
 #include <array>
 #include <cstdio>
 #include <stdexcept>
 
 namespace jet::test {
-namespace {
-
-TableDefinition definitionOf(PageSource& pages, std::string_view table) {
-    return TableDefinitionReader(pages).read(Catalog(pages).find(table).definitionPage(), table);
-}
-
-} // namespace
 
 std::vector<Values> readRows(share::File& file, std::string_view table) {
     PageReader pages(file, 0);
