@@ -14,6 +14,7 @@ namespace {
 // A cycle of PipeWire's is 5 to 170 ms, and takes two pieces at the most.
 constexpr std::size_t kPiecesPerSecond = 10;
 constexpr std::size_t kSilencesPerSecond = 100;
+static_assert(kSilencesPerSecond >= kPiecesPerSecond, "one silence serves both");
 // How much of the sound lies ready for the next cycles. The sink holds no more than eight pieces.
 constexpr GstClockTime kAhead = 200 * GST_MSECOND;
 // A piece or two are on their way to the sink; more were thrown away by it.

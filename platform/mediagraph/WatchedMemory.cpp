@@ -57,6 +57,8 @@ GstMemory* newWatchedMemory(std::span<const std::byte> bytes, std::function<void
     auto made = std::make_unique<WatchedMemory>(WatchedMemory{{}, bytes, std::move(isRead)});
     gst_memory_init(&made->memory, GST_MEMORY_FLAG_READONLY, kAllocator, nullptr, bytes.size(), 0, 0,
                     bytes.size());
+    // Who wants a part of it gets a copy: the allocator has no way to share.
+    GST_MINI_OBJECT_FLAG_SET(&made->memory, GST_MEMORY_FLAG_NO_SHARE);
     return &made.release()->memory;
 }
 

@@ -1,0 +1,34 @@
+// SPDX-FileCopyrightText: 2026 The qmClient authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+// What a player does step by step, where the order of things is what counts.
+
+#include "tests/platform/mediagraph/PlayedAlone.h"
+
+#include <gtest/gtest.h>
+
+namespace mediagraph::testing {
+namespace {
+
+const OutputDevice kDefault{DeviceList::kDefaultName, "pulsesink", ""};
+
+// The failure came too late to be told: what is wanted meanwhile is not to be left waiting for a dead stream.
+TEST(PlayerAlone, PlaysTheNewestOrderAfterAFailureOfAnEarlierOne) {
+    SoundWorld world;
+    PlayedAlone played(world, world.makeMessage(3), kDefault);
+    played.desk->want(PlayState::Playing);
+    const PlayOrder early = played.newest();
+    ASSERT_TRUE(played.comesTo(0.1));
+    played.desk->want(PlayState::Paused);
+    played.desk->want(PlayState::Playing);
+    world.server.kill();
+    ASSERT_TRUE(waitUntil([&] {
+        played.player.step(early);
+        return !played.player.idleTime();
+    }));
+    world.server.start();
+    const double position = played.desk->position();
+    EXPECT_TRUE(played.comesTo(position + 0.1));
+}
+
+} // namespace
+} // namespace mediagraph::testing
