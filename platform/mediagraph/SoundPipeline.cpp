@@ -48,14 +48,24 @@ GstElement* newSink(const OutputDevice& device) {
     return sink;
 }
 
+// GStreamer's own threads may hold the bus and the sink longer than the pipeline lives, so these two own what
+// they touch.
+using MessageCame = std::function<void()>;
+using MayHaveMoved = std::shared_ptr<std::atomic<bool>>;
+
+template <typename Object>
+void destroy(gpointer object) {
+    std::default_delete<Object>()(static_cast<Object*>(object));
+}
+
 // Messages stay on the bus for the playing thread; this only wakes it.
 GstBusSyncReply wake(GstBus*, GstMessage*, gpointer user) {
-    (*static_cast<std::function<void()>*>(user))();
+    (*static_cast<MessageCame*>(user))();
     return GST_BUS_PASS;
 }
 
 void noteMove(GstElement*, GParamSpec*, gpointer user) {
-    *static_cast<std::atomic<bool>*>(user) = true;
+    **static_cast<MayHaveMoved*>(user) = true;
 }
 
 } // namespace
@@ -64,13 +74,15 @@ SoundPipeline::SoundPipeline(std::shared_ptr<const Samples> samples, double from
                              const OutputDevice& device, std::function<void()> messageCame)
     : m_from(fromSeconds), m_rate(samples->rate),
       m_progress(std::make_shared<FeedingProgress>(std::lround(fromSeconds * samples->rate))),
-      m_messageCame(std::move(messageCame)),
       m_pipeline(GST_ELEMENT(gst_object_ref_sink(gst_pipeline_new(nullptr)))), m_sink(add(newSink(device))) {
     addSource(std::move(samples), device);
     m_bus.reset(gst_pipeline_get_bus(GST_PIPELINE(m_pipeline.get())));
-    gst_bus_set_sync_handler(m_bus.get(), wake, &m_messageCame, nullptr);
+    gst_bus_set_sync_handler(m_bus.get(), wake, new MessageCame(std::move(messageCame)),
+                             destroy<MessageCame>);
     if (hasProperty(m_sink, "current-device"))
-        g_signal_connect(m_sink, "notify::current-device", G_CALLBACK(noteMove), &m_mayHaveMoved);
+        g_signal_connect_data(
+            m_sink, "notify::current-device", G_CALLBACK(noteMove), new MayHaveMoved(m_mayHaveMoved),
+            [](gpointer user, GClosure*) { destroy<MayHaveMoved>(user); }, GConnectFlags{});
 }
 
 // Sound servers take every rate and number of channels, and convert better; only cards need help with it.
@@ -94,9 +106,6 @@ GstElement* SoundPipeline::add(GstElement* element) {
 
 SoundPipeline::~SoundPipeline() {
     gst_element_set_state(m_pipeline.get(), GST_STATE_NULL);
-    g_signal_handlers_disconnect_by_data(m_sink, &m_mayHaveMoved);
-    gst_bus_set_sync_handler(m_bus.get(), nullptr, nullptr, nullptr);
-    gst_bus_set_flushing(m_bus.get(), TRUE);
 }
 
 void SoundPipeline::start() {

@@ -5,7 +5,8 @@
 // conversion to what the device wants, the device's own sink. It is never paused or sent elsewhere; for that
 // one makes another. Flushing or corking a stream makes the sound server's clock jump now and then, and the
 // sink's clock then stands still for good. Every call may block as long as the sound server pleases; so it
-// belongs to a playing thread, which makes, uses and destroys it. The bus is silent once it is destroyed.
+// belongs to a playing thread, which makes, uses and destroys it. Nobody reads its messages once it is
+// destroyed.
 
 #include "platform/mediagraph/AppSource.h"
 #include "platform/mediagraph/GstRef.h"
@@ -22,8 +23,9 @@ namespace mediagraph {
 
 class SoundPipeline {
 public:
-    // `messageCame` is called from any thread whenever the bus has something. Error kMediaNoHardware when
-    // GStreamer lacks the device's sink.
+    // `messageCame` is called from any thread whenever the bus has something, at the worst also after the
+    // pipeline is gone; so it owns what it touches. Error kMediaNoHardware when GStreamer lacks the device's
+    // sink.
     SoundPipeline(std::shared_ptr<const Samples> samples, double fromSeconds, const OutputDevice& device,
                   std::function<void()> messageCame);
     SoundPipeline(const SoundPipeline&) = delete;
@@ -42,7 +44,7 @@ public:
     // The next message, if there is one.
     GstRef<GstMessage> message();
     // Whether the sink may play somewhere else than at the last question; true at first.
-    bool mayHaveMoved() { return m_mayHaveMoved.exchange(false); }
+    bool mayHaveMoved() { return m_mayHaveMoved->exchange(false); }
     // Where the sink plays at this moment, by the sound server's name; empty where it does not tell. Asks the
     // server each time.
     std::string currentDevice() const;
@@ -54,8 +56,7 @@ private:
     double m_from;
     double m_rate;
     SharedProgress m_progress;
-    std::atomic<bool> m_mayHaveMoved = true;
-    std::function<void()> m_messageCame;
+    std::shared_ptr<std::atomic<bool>> m_mayHaveMoved = std::make_shared<std::atomic<bool>>(true);
     GstRef<GstElement> m_pipeline;
     GstElement* m_sink; // owned by the pipeline
     GstRef<GstBus> m_bus;
