@@ -31,9 +31,11 @@ class Visit {
 public:
     explicit Visit(std::chrono::milliseconds limit)
         : m_end(Clock::now() + limit), m_loop(pa_mainloop_new()),
-          m_context(pa_context_new(pa_mainloop_get_api(m_loop.get()), nullptr)) {}
+          m_context(m_loop ? pa_context_new(pa_mainloop_get_api(m_loop.get()), nullptr) : nullptr) {}
 
     std::optional<std::vector<PulseSink>> sinks() {
+        if (!m_context) // no descriptor to be had
+            return std::nullopt;
         if (pa_context_connect(m_context.get(), nullptr, PA_CONTEXT_NOAUTOSPAWN, nullptr) < 0)
             return std::nullopt;
         if (!turnWhile([this] { return isConnecting(); }) || state() != PA_CONTEXT_READY)

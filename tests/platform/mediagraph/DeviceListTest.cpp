@@ -6,6 +6,7 @@
 #include "platform/mediagraph/WaveOut.h"
 
 #include <gtest/gtest.h>
+#include <sys/resource.h>
 
 namespace mediagraph {
 namespace {
@@ -75,6 +76,16 @@ TEST(DeviceList, ReadsTheSoundCardsThatCanPlay) {
 TEST(DeviceList, HasNoSoundCardsInATextWithoutAny) {
     EXPECT_FALSE(DeviceList::fromSoundCards(""));
     EXPECT_FALSE(DeviceList::fromSoundCards("00-00: x\n: playback \n\n"));
+}
+
+TEST(DeviceList, HasNoPulseServerWhenThereIsNoDescriptorToBeHad) {
+    rlimit before{};
+    ASSERT_EQ(::getrlimit(RLIMIT_NOFILE, &before), 0);
+    const rlimit none{0, before.rlim_max};
+    ASSERT_EQ(::setrlimit(RLIMIT_NOFILE, &none), 0);
+    const bool answers = DeviceList::fromPulse().has_value();
+    ::setrlimit(RLIMIT_NOFILE, &before);
+    EXPECT_FALSE(answers);
 }
 
 TEST(DeviceList, HasNoPipeWireWithoutItsSocket) {
