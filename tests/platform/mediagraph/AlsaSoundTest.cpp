@@ -4,6 +4,7 @@
 // What comes out of ALSA where there is no sound server. The library and GStreamer's sink are the real ones;
 // the card is one that plays at the test's own server, where it is recorded.
 #include "platform/mediagraph/DeviceList.h"
+#include "tests/platform/mediagraph/PlayedAlone.h"
 #include "tests/platform/mediagraph/Recording.h"
 #include "tests/platform/mediagraph/SoundWorld.h"
 
@@ -17,6 +18,11 @@ namespace {
 constexpr const char* kPlayingCard = "pcm.!default { type pulse }\n"
                                      "pcm.plughw { @args [ CARD DEV ] @args.CARD { type string }\n"
                                      "  @args.DEV { type string } type pulse device second }\n";
+// As a card without ALSA's own conversion: it plays two channels and no other number.
+constexpr const char* kStereoCard = "pcm.server { type pulse }\n"
+                                    "pcm.mapped { type mmap_emul slave.pcm server }\n"
+                                    "pcm.!default { type multi slaves.a { pcm mapped channels 2 }\n"
+                                    "  bindings { 0 { slave a channel 0 } 1 { slave a channel 1 } } }\n";
 constexpr const char* kMissingCard = "pcm.!default { type hw card 7 }\n";
 
 DeviceList cards() {
@@ -64,6 +70,23 @@ TEST(PlayingAtAlsa, HearsAMessageWholeAtTheDefault) {
 TEST(PlayingAtAlsa, HearsAMessageWholeAtTheCardThatWasChosen) {
     AlsaWorld world(kPlayingCard);
     expectHeard(world, {"pcm16", SF_FORMAT_PCM_16, 8000, 1}, "Codec", "second");
+}
+
+TEST(PlayingAtAlsa, HearsAMessageOfOneChannelWholeAtACardOfTwo) {
+    AlsaWorld world(kStereoCard);
+    expectHeard(world, {"ALawAt8000", SF_FORMAT_ALAW, 8000, 1}, DeviceList::kDefaultName, "first");
+}
+
+// A card plays for one program at a time: the next message needs it at once. Nobody steps after the stop.
+TEST(PlayingAtAlsa, LetsTheCardGoWithTheStopThatFollowsTheEnd) {
+    AlsaWorld world(kPlayingCard);
+    PlayedAlone played(world, world.makeMessage(0.2), {DeviceList::kDefaultName, "alsasink", ""});
+    played.desk->want(PlayState::Playing);
+    ASSERT_TRUE(played.comesToItsEnd());
+    EXPECT_EQ(world.server.streamCount(), 1U);
+    played.desk->want(PlayState::Stopped);
+    played.player.step(played.newest());
+    EXPECT_TRUE(waitUntil([&] { return world.server.streamCount() == 0; }));
 }
 
 TEST(PlayingAtAlsa, TellsOnceThatThereIsNoCard) {

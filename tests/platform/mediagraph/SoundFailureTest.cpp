@@ -76,8 +76,10 @@ TEST(SoundServerFailure, ByHangingWhilePlayingEndsThePlayInAnError) {
     const auto graph = world.connected(world.makeMessage(30));
     graph->Run();
     ASSERT_TRUE(comesTo(*graph, 0.2));
+    const double position = graph->CurrentPosition();
     world.server.freeze();
     EXPECT_EQ(toldFailure(*graph), basic::kMediaTimeout);
+    EXPECT_LT(graph->CurrentPosition(), position + 8); // the sound that lies ready, three seconds, and some
     world.server.thaw();
     expectPlays(world);
 }
@@ -114,6 +116,19 @@ TEST(UnpluggingTheDevice, EndsPlayingAlsoWhenItWasTheLastOne) {
     EXPECT_EQ(endOf(*graph), EventCode::UserAbort);
     // The silent stand-in that the server loads now is no device.
     EXPECT_EQ(world.sound().waveOut().waveOutGetNumDevs(), 0U);
+}
+
+// A server without a stand-in for the last device ends the stream itself: a failure by its looks.
+TEST(UnpluggingTheDevice, EndsPlayingAlsoWhereTheServerHasNoStandIn) {
+    SoundWorld world;
+    world.server.control({"unload-module", "module-always-sink"});
+    world.server.unplug("second");
+    const auto graph = world.connected(world.makeMessage(5));
+    graph->Run();
+    ASSERT_TRUE(comesTo(*graph, 0.2));
+    world.server.unplug("first");
+    EXPECT_EQ(endOf(*graph), EventCode::UserAbort);
+    EXPECT_EQ(errorOf([&] { graph->CurrentPosition(); }), 0);
 }
 
 TEST(UnpluggingTheDevice, WhilePausedLetsThePlayGoOnAtTheNewDefault) {

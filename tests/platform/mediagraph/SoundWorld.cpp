@@ -26,6 +26,11 @@ SoundSystem::NewFiles filesBelow(const std::string& folder) {
 SoundWorld::SoundWorld(SoundServer::Begin begin)
     : server(begin), m_sound(std::make_unique<SoundSystem>(filesBelow(m_share.path()), m_waiting)) {}
 
+SoundWorld::~SoundWorld() {
+    for (const auto& threads : m_threads)
+        EXPECT_TRUE(threads->waitForNone(std::chrono::seconds{20}));
+}
+
 std::string SoundWorld::makeMessage(double seconds, const SoundKind& kind) const {
     makeSoundFile(pathOf(kind.name + ".wav"), kind, seconds);
     return kind.name + ".wav";
@@ -52,8 +57,10 @@ void SoundWorld::connect(FilgraphManager& graph, const std::string& file, const 
 }
 
 Graph SoundWorld::newGraph(DeviceList devices) {
-    return std::make_shared<Filgraph>(std::make_shared<GraphServices>(GraphServices{
-        std::move(devices), MessageReader(filesBelow(m_share.path()), m_waiting), Aside(m_waiting)}));
+    const auto services = std::make_shared<GraphServices>(GraphServices{
+        std::move(devices), MessageReader(filesBelow(m_share.path()), m_waiting), Aside(m_waiting)});
+    m_threads.push_back(services->threads);
+    return std::make_shared<Filgraph>(services);
 }
 
 Graph SoundWorld::connected(const std::string& file, const std::string& device) {

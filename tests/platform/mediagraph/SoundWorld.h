@@ -8,6 +8,7 @@
 #include "platform/mediagraph/FilgraphManager.h"
 #include "platform/mediagraph/Samples.h"
 #include "platform/mediagraph/SoundSystem.h"
+#include "platform/mediagraph/ThreadCount.h"
 #include "platform/mediagraph/Waiting.h"
 #include "tests/platform/mediagraph/ErrorOf.h"
 #include "tests/platform/mediagraph/SoundServer.h"
@@ -18,6 +19,7 @@
 #include <memory>
 #include <optional>
 #include <string>
+#include <vector>
 
 namespace mediagraph::testing {
 
@@ -26,6 +28,10 @@ using Graph = std::shared_ptr<FilgraphManager>;
 class SoundWorld {
 public:
     explicit SoundWorld(SoundServer::Begin begin = SoundServer::Begin::Started);
+    SoundWorld(const SoundWorld&) = delete;
+    SoundWorld& operator=(const SoundWorld&) = delete;
+    // Waits for the threads that play: the next world changes the environment that they read.
+    ~SoundWorld();
 
     SoundServer server;
 
@@ -52,6 +58,7 @@ private:
     share::testing::TemporaryFolder m_share;
     SleepWaiting m_waiting;
     std::unique_ptr<SoundSystem> m_sound;
+    std::vector<std::shared_ptr<ThreadCount>> m_threads; // of the graphs beside m_sound
 };
 
 // The first registered filter of this name.
