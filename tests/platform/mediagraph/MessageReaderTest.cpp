@@ -11,9 +11,9 @@
 
 #include <condition_variable>
 #include <filesystem>
+#include <functional>
 #include <mutex>
 #include <semaphore>
-#include <thread>
 
 namespace mediagraph::testing {
 namespace {
@@ -23,21 +23,47 @@ using std::chrono::milliseconds;
 constexpr WaitLimits kPatient{std::chrono::seconds{20}, std::chrono::seconds{20}};
 constexpr const char* kMessage = R"(\\srv\Quillamar_0$\message.wav)";
 
-class CountingWait final : public Waiting {
+// What a server has to offer for reading alone; what a read answers is each test's own.
+class ServedFile : public share::File {
 public:
-    int passes = 0;
-    bool pass(milliseconds time) override {
-        ++passes;
-        std::this_thread::sleep_for(time);
-        return true;
-    }
+    explicit ServedFile(std::uint64_t size) : m_size(size) {}
+    const std::string& name() const override { return m_name; }
+    std::uint64_t size() override { return m_size; }
+    void write(std::uint64_t, std::span<const std::byte>) override {}
+    void sync() override {}
+    bool lock(std::uint64_t, std::uint64_t, share::LockKind) override { return true; }
+    void unlock(std::uint64_t, std::uint64_t) override {}
+
+private:
+    std::uint64_t m_size;
+    std::string m_name = "served";
 };
+
+// A server on which every path leads to such a file.
+class Server final : public share::FileSystemObject {
+public:
+    using Open = std::function<std::unique_ptr<share::File>()>;
+
+    explicit Server(Open open) : m_open(std::move(open)) {}
+    bool FileExists(std::string_view) override { return true; }
+    bool FolderExists(std::string_view) override { return true; }
+    std::vector<std::string> SubFolders(std::string_view) override { return {}; }
+    void DeleteFile(std::string_view, bool) override {}
+    std::unique_ptr<share::File> openFile(std::string_view, share::OpenMode) override { return m_open(); }
+
+private:
+    Open m_open;
+};
+
+MessageReader readerOf(Server::Open open, Waiting& waiting, WaitLimits limits = kPatient) {
+    return {[open = std::move(open)] { return std::make_unique<Server>(open); }, waiting, limits};
+}
 
 // A share of this machine's folder; what is done to it happens through the plan.
 struct ReadingWorld {
     share::testing::TemporaryFolder folder;
     share::testing::FaultPlan plan;
-    CountingWait waiting;
+    SleepWaiting waiting;
     share::LocalFileSystemObject files{share::ShareResolver(
         [this](std::string_view) { return folder.path(); }, [] { return std::string(); })};
 
@@ -118,35 +144,15 @@ struct Gate {
     }
 };
 
-class GatedFile final : public share::File {
+constexpr std::uint64_t kSeveralPieces = 1'000'000;
+
+class GatedFile final : public ServedFile {
 public:
-    explicit GatedFile(std::shared_ptr<Gate> gate) : m_gate(std::move(gate)) {}
+    explicit GatedFile(std::shared_ptr<Gate> gate) : ServedFile(kSeveralPieces), m_gate(std::move(gate)) {}
     ~GatedFile() override { m_gate->leave(); }
-    const std::string& name() const override { return m_name; }
-    std::uint64_t size() override { return 1'000'000; } // several pieces
     std::size_t read(std::uint64_t, std::span<std::byte> into) override {
         m_gate->pass();
         return into.size();
-    }
-    void write(std::uint64_t, std::span<const std::byte>) override {}
-    void sync() override {}
-    bool lock(std::uint64_t, std::uint64_t, share::LockKind) override { return true; }
-    void unlock(std::uint64_t, std::uint64_t) override {}
-
-private:
-    std::shared_ptr<Gate> m_gate;
-    std::string m_name = "gated";
-};
-
-class GatedFiles final : public share::FileSystemObject {
-public:
-    explicit GatedFiles(std::shared_ptr<Gate> gate) : m_gate(std::move(gate)) {}
-    bool FileExists(std::string_view) override { return true; }
-    bool FolderExists(std::string_view) override { return true; }
-    std::vector<std::string> SubFolders(std::string_view) override { return {}; }
-    void DeleteFile(std::string_view, bool) override {}
-    std::unique_ptr<share::File> openFile(std::string_view, share::OpenMode) override {
-        return std::make_unique<GatedFile>(m_gate);
     }
 
 private:
@@ -154,16 +160,15 @@ private:
 };
 
 MessageReader gatedReader(const std::shared_ptr<Gate>& gate, Waiting& waiting, WaitLimits limits) {
-    return {[gate] { return std::make_unique<GatedFiles>(gate); }, waiting, limits};
+    return readerOf([gate] { return std::make_unique<GatedFile>(gate); }, waiting, limits);
 }
 
 TEST(MessageReader, GivesUpOnAServerThatStopsAnswering) {
     const auto gate = std::make_shared<Gate>();
-    CountingWait waiting;
+    SleepWaiting waiting;
     auto reader = gatedReader(gate, waiting, {milliseconds{50}, std::chrono::minutes{10}});
     EXPECT_EQ(errorTextOf([&] { reader.read("m.wav"); }),
               "m.wav: the server does not answer. The message could not be read.");
-    EXPECT_GT(waiting.passes, 0);
     gate->open();
     gate->awaitLeaving();                              // the thread that was left behind closes its file
     EXPECT_LE(gate->reads, 1) << "read on for nobody"; // none, where the thread came late
@@ -171,7 +176,7 @@ TEST(MessageReader, GivesUpOnAServerThatStopsAnswering) {
 
 TEST(MessageReader, GivesUpWhenItTakesTooLongAltogether) {
     const auto gate = std::make_shared<Gate>();
-    CountingWait waiting;
+    SleepWaiting waiting;
     auto reader = gatedReader(gate, waiting, {std::chrono::hours{1}, milliseconds{50}});
     EXPECT_EQ(errorOf([&] { reader.read("m.wav"); }), basic::kDeviceIoError);
     gate->open();
@@ -179,36 +184,15 @@ TEST(MessageReader, GivesUpWhenItTakesTooLongAltogether) {
 }
 
 // Has less than it said when it was opened.
-class ShrunkFiles final : public share::FileSystemObject {
-    class ShrunkFile final : public share::File {
-    public:
-        const std::string& name() const override { return m_name; }
-        std::uint64_t size() override { return 1000; }
-        std::size_t read(std::uint64_t offset, std::span<std::byte>) override {
-            return offset == 0 ? 600 : 0;
-        }
-        void write(std::uint64_t, std::span<const std::byte>) override {}
-        void sync() override {}
-        bool lock(std::uint64_t, std::uint64_t, share::LockKind) override { return true; }
-        void unlock(std::uint64_t, std::uint64_t) override {}
-
-    private:
-        std::string m_name = "shrunk";
-    };
-
+class ShrunkFile final : public ServedFile {
 public:
-    bool FileExists(std::string_view) override { return true; }
-    bool FolderExists(std::string_view) override { return true; }
-    std::vector<std::string> SubFolders(std::string_view) override { return {}; }
-    void DeleteFile(std::string_view, bool) override {}
-    std::unique_ptr<share::File> openFile(std::string_view, share::OpenMode) override {
-        return std::make_unique<ShrunkFile>();
-    }
+    ShrunkFile() : ServedFile(1000) {}
+    std::size_t read(std::uint64_t offset, std::span<std::byte>) override { return offset == 0 ? 600 : 0; }
 };
 
 TEST(MessageReader, AnswersNoMoreThanThereWasToRead) {
-    CountingWait waiting;
-    MessageReader reader([] { return std::make_unique<ShrunkFiles>(); }, waiting, kPatient);
+    SleepWaiting waiting;
+    auto reader = readerOf([] { return std::make_unique<ShrunkFile>(); }, waiting);
     EXPECT_EQ(reader.read("m.wav").size(), 600U);
 }
 
@@ -260,34 +244,12 @@ private:
     int m_passes = 0;
 };
 
-class SlowFiles final : public share::FileSystemObject {
-    class SlowFile final : public share::File {
-    public:
-        explicit SlowFile(std::shared_ptr<Turns> turns) : m_turns(std::move(turns)) {}
-        const std::string& name() const override { return m_name; }
-        std::uint64_t size() override { return 1'000'000; } // sixteen pieces
-        std::size_t read(std::uint64_t, std::span<std::byte> into) override {
-            m_turns->acquire();
-            return into.size();
-        }
-        void write(std::uint64_t, std::span<const std::byte>) override {}
-        void sync() override {}
-        bool lock(std::uint64_t, std::uint64_t, share::LockKind) override { return true; }
-        void unlock(std::uint64_t, std::uint64_t) override {}
-
-    private:
-        std::shared_ptr<Turns> m_turns;
-        std::string m_name = "slow";
-    };
-
+class SlowFile final : public ServedFile {
 public:
-    explicit SlowFiles(std::shared_ptr<Turns> turns) : m_turns(std::move(turns)) {}
-    bool FileExists(std::string_view) override { return true; }
-    bool FolderExists(std::string_view) override { return true; }
-    std::vector<std::string> SubFolders(std::string_view) override { return {}; }
-    void DeleteFile(std::string_view, bool) override {}
-    std::unique_ptr<share::File> openFile(std::string_view, share::OpenMode) override {
-        return std::make_unique<SlowFile>(m_turns);
+    explicit SlowFile(std::shared_ptr<Turns> turns) : ServedFile(kSeveralPieces), m_turns(std::move(turns)) {}
+    std::size_t read(std::uint64_t, std::span<std::byte> into) override {
+        m_turns->acquire();
+        return into.size();
     }
 
 private:
@@ -297,16 +259,16 @@ private:
 TEST(MessageReader, StaysWithAServerThatIsSlowButGoesOn) {
     const auto turns = std::make_shared<Turns>(0);
     SlowWait waiting(turns);
-    MessageReader reader([turns] { return std::make_unique<SlowFiles>(turns); }, waiting,
-                         {std::chrono::seconds{2}, std::chrono::minutes{10}});
-    EXPECT_EQ(reader.read("m.wav").size(), 1'000'000U);
+    auto reader = readerOf([turns] { return std::make_unique<SlowFile>(turns); }, waiting,
+                           {std::chrono::seconds{2}, std::chrono::minutes{10}});
+    EXPECT_EQ(reader.read("m.wav").size(), kSeveralPieces);
 }
 
 TEST(MessageReader, LetsTheCallerLiveOnWhileItReads) {
     const auto gate = std::make_shared<Gate>();
     OpeningWait waiting(gate);
     auto reader = gatedReader(gate, waiting, kPatient);
-    EXPECT_EQ(reader.read("m.wav").size(), 1'000'000U);
+    EXPECT_EQ(reader.read("m.wav").size(), kSeveralPieces);
 }
 
 } // namespace
