@@ -3,6 +3,7 @@
 #include "app/ButtonStates.h"
 
 #include "app/CommandBarLayout.h"
+#include "tests/app/PlayerButtons.h"
 #include "tests/errors/RecordingErrorHandler.h"
 
 #include <QMainWindow>
@@ -25,7 +26,7 @@ constexpr bool I = true;
 
 struct Row {
     bool isPlaying, isPaused, hasFile, message;
-    const char* buttons; // as buttons() tells them
+    const char* buttons; // as playerButtons() tells them
 };
 
 const std::array kTruthTable{
@@ -56,16 +57,7 @@ protected:
     void update(const PlaybackState& player) {
         ButtonStates({errors, ab, list, [&] { return player; }}).UpdateButtonStates();
     }
-    // In the order in which they are set: '+' enabled, 'x' enabled and pressed, '-' disabled, 'X' disabled
-    // and pressed.
-    std::string buttons() {
-        std::string text;
-        for (const char* name : {"miSPlay", "miSStop", "miSPause", "miSRew", "miSFwd"}) {
-            const forms::Tool& tool = button(name);
-            text += tool.Enabled() ? (tool.Checked() ? 'x' : '+') : (tool.Checked() ? 'X' : '-');
-        }
-        return text;
-    }
+    std::string buttons() { return playerButtons(ab); }
     forms::Tool& button(const char* name) { return ab.Bands(kBandStatus).Tools(name); }
 
     errors::RecordingErrorHandler errors;

@@ -27,9 +27,8 @@ protected:
 
     void run() { run(common); }
     void run(data::basCommon& connections) {
-        forms::TabStrip& tabs = *window->findChild<forms::TabStrip*>(QStringLiteral("TabStrip"));
         errors::Procedure proc{reporter, "frmMain", "ab_ToolClick"};
-        DeleteAll({connections, files, messageBoxes, tabs, window->state(), *window,
+        DeleteAll({connections, files, messageBoxes, tabStrip(), window->state(), *window,
                    [this] {
                        ++stops;
                        if (onStop)
@@ -52,9 +51,6 @@ protected:
     }
     std::string place(int id, const std::string& name) {
         return folder.path("share/MBX/" + std::to_string(id) + "/" + name);
-    }
-    std::string makeSound(int id, const std::string& name) {
-        return folder.makeFile("share/MBX/" + std::to_string(id) + "/" + name, "RIFF");
     }
     // Somebody who is in the mailbox's database until the answer is destroyed.
     std::unique_ptr<share::File> somebodyIn(int id) {
@@ -257,9 +253,7 @@ TEST_F(DeleteAllTest, MailboxWithoutDatabaseIsError91) {
 TEST_F(DeleteAllTest, MailboxThatBecameCurrentDuringTheQuestionIsNotTouched) {
     loadTwoMailboxes();
     const std::string message = makeSound(15, "C1.wav");
-    messageBoxes.onShow = [&] {
-        window->findChild<forms::TabStrip*>(QStringLiteral("TabStrip"))->SetSelectedItem(2);
-    };
+    messageBoxes.onShow = [&] { tabStrip().SetSelectedItem(2); };
     run();
     EXPECT_EQ(callsIn(12), 3U);
     EXPECT_EQ(callsIn(15), 3U);

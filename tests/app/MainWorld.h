@@ -88,6 +88,10 @@ protected:
     void configure(const std::vector<int>& mailboxes, int pollSeconds = 10,
                    const std::string& server = "srv01");
     tests::CallLogFile& mailbox(int id);
+    // A file beside the mailbox's call log; answers its path.
+    std::string makeSound(int id, const std::string& name) const {
+        return folder.makeFile("share/MBX/" + std::to_string(id) + "/" + name, "RIFF");
+    }
     void removeShare() const;
     void load();
     // The same in two steps.

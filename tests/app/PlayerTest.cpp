@@ -4,6 +4,7 @@
 // The player in the main window: which file a command plays, what the buttons show, and how it ends.
 #include "app/ChosenMailbox.h"
 #include "tests/app/MainWorld.h"
+#include "tests/app/PlayerButtons.h"
 
 #include <QTest>
 #include <QToolBar>
@@ -25,7 +26,7 @@ protected:
         configure({12});
         mailbox(12).append({"C1", "Anna", 7});
         mailbox(12).append({"C2", "Ben", 0});
-        message(12, "C1");
+        makeSound(12, "C1.wav");
         load();
         sound.takeLog();
     }
@@ -33,31 +34,17 @@ protected:
         configure({15, 12});
         for (const int id : {15, 12}) {
             mailbox(id).append({"C1", "Anna", 7});
-            message(id, "C1");
+            makeSound(id, "C1.wav");
         }
         load();
         sound.takeLog();
-    }
-    void message(int id, const std::string& callID) const {
-        folder.makeFile("share/MBX/" + std::to_string(id) + "/" + callID + ".wav", "RIFF");
     }
     void select(const char* key) { list().SetSelectedItem(list().ListItems().Item(key)); }
     void play() {
         select("KC1");
         window->ab_ToolClick("miSPlay");
     }
-    forms::ListView& list() { return *window->findChild<forms::ListView*>(); }
-    forms::TabStrip& tabStrip() { return *window->findChild<forms::TabStrip*>(); }
-    // The five buttons, in the order of the table: '+' enabled, 'x' enabled and pressed, '-' disabled,
-    // 'X' disabled and pressed.
-    std::string buttons() {
-        std::string text;
-        for (const char* name : {"miSPlay", "miSStop", "miSPause", "miSRew", "miSFwd"}) {
-            const forms::Tool& tool = window->ab().Bands("Status").Tools(name);
-            text += tool.Enabled() ? (tool.Checked() ? 'x' : '+') : (tool.Checked() ? 'X' : '-');
-        }
-        return text;
-    }
+    std::string buttons() { return playerButtons(window->ab()); }
     // The only place where the message is played from, as the engine got it.
     std::string played() {
         std::string file;
@@ -103,7 +90,7 @@ TEST_F(MainPlayerTest, DoubleClickWithoutASelectedCallDoesNothing) {
 
 TEST_F(MainPlayerTest, CallWithoutAMessageIsNotPlayedAndNothingIsSaid) {
     loadOne();
-    message(12, "C2");
+    makeSound(12, "C2.wav");
     select("KC2");
     window->ab_ToolClick("miSPlay");
     EXPECT_THAT(sound.takeLog(), IsEmpty());

@@ -29,8 +29,8 @@ protected:
         configure({12});
         mailbox(12).append({"C1", "Anna", 7});
         mailbox(12).append({"C2", "Ben", 7});
-        for (const char* call : {"C1", "C2"})
-            folder.makeFile("share/MBX/12/" + std::string(call) + ".wav", "RIFF");
+        makeSound(12, "C1.wav");
+        makeSound(12, "C2.wav");
         load();
         window->showWindow();
         QApplication::setActiveWindow(&*window);

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // The flags of every tool of the command bar in every state that the program can be in.
 #include "tests/app/MainWorld.h"
+#include "tests/app/PlayerButtons.h"
 
 #include <QTest>
 
@@ -20,7 +21,7 @@ class ToolStatesTest;
 struct State {
     const char* name;
     void (ToolStatesTest::*reach)();
-    const char* buttons; // Play, Stop, Pause, Rewind, Forward
+    const char* buttons; // as playerButtons() tells them
 };
 
 std::ostream& operator<<(std::ostream& out, const State& state) {
@@ -119,7 +120,7 @@ protected:
         for (const int id : ids) {
             mailbox(id).append({"C1", "Anna", 7});
             mailbox(id).append({"C2", "Ben", 0});
-            folder.makeFile("share/MBX/" + std::to_string(id) + "/C1.wav", "RIFF");
+            makeSound(id, "C1.wav");
         }
         load();
     }
@@ -128,14 +129,7 @@ protected:
         list().SetSelectedItem(item);
         Q_EMIT list().ItemClick(item.Index());
     }
-    std::string buttons() {
-        std::string text;
-        for (const char* name : {"miSPlay", "miSStop", "miSPause", "miSRew", "miSFwd"}) {
-            const forms::Tool& tool = window->ab().Bands("Status").Tools(name);
-            text += tool.Enabled() ? (tool.Checked() ? 'x' : '+') : (tool.Checked() ? 'X' : '-');
-        }
-        return text;
-    }
+    std::string buttons() { return playerButtons(window->ab()); }
     // Tools but the five buttons that are disabled or pressed.
     std::vector<std::string> changedOthers() {
         std::vector<std::string> found;
