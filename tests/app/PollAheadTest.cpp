@@ -23,6 +23,11 @@ protected:
         load();
         finishPoll();
     }
+    void loadTwelveCalls() {
+        configure({12});
+        mailbox(12).append(12);
+        loadAndLearn();
+    }
     // Until the answers came and the routine ran over them.
     void finishPoll() {
         ASSERT_TRUE(QTest::qWaitFor([this] { return !m_counts.isAsking(); }, 60'000));
@@ -65,9 +70,7 @@ TEST_F(PollAheadTest, AnnouncesWhatTheServerCounted) {
 }
 
 TEST_F(PollAheadTest, ReturnsToTheEventLoopWhileTheServerHangs) {
-    configure({12});
-    mailbox(12).append(12);
-    loadAndLearn();
+    loadTwelveCalls();
     mailbox(12).append(3);
     m_samba.pause();
     tick();
@@ -79,9 +82,7 @@ TEST_F(PollAheadTest, ReturnsToTheEventLoopWhileTheServerHangs) {
 }
 
 TEST_F(PollAheadTest, PollsOnceMoreForAllTicksThatComeMeanwhile) {
-    configure({12});
-    mailbox(12).append(12);
-    loadAndLearn();
+    loadTwelveCalls();
     mailbox(12).append(3);
     int polls = 0; // that found new calls
     QObject::connect(&*window, &frmMain::ItemChanged, &*window, [&] {
@@ -121,9 +122,7 @@ TEST_F(PollAheadTest, AnswersThatComeInsideOfAWaitAreLeftForAfterIt) {
 }
 
 TEST_F(PollAheadTest, PassesOverADatabaseThatSomebodyElseHasToHimselfAndCountsItAfterwards) {
-    configure({12});
-    mailbox(12).append(12);
-    loadAndLearn();
+    loadTwelveCalls();
     share::smb::SmbServers others = connections();
     share::smb::ThreadWaiter waiter;
     share::smb::SmbFileSystemObject theirs{others, waiter};
@@ -168,9 +167,7 @@ TEST_F(PollAheadTest, ReportsACountThatFailedAndTryAgainAsksTheServerAnew) {
 }
 
 TEST_F(PollAheadTest, AsksAnewWhenTheConfigurationWasLoadedMeanwhile) {
-    configure({12});
-    mailbox(12).append(12);
-    loadAndLearn();
+    loadTwelveCalls();
     mailbox(12).append(3);
     m_samba.pause();
     tick();
@@ -185,9 +182,7 @@ TEST_F(PollAheadTest, AsksAnewWhenTheConfigurationWasLoadedMeanwhile) {
 }
 
 TEST_F(PollAheadTest, IsLeftByTheEndOfTheProgramAtOnce) {
-    configure({12});
-    mailbox(12).append(12);
-    loadAndLearn();
+    loadTwelveCalls();
     m_samba.pause();
     tick();
     window->state().exitRequested = true;
