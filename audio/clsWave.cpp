@@ -38,7 +38,6 @@ std::string nameOf(const mediagraph::WaveOutCaps& device) {
 } // namespace
 
 clsWave::clsWave(const WaveServices& services) : m_services(services), m_filters(services.errorHandler) {
-    m_Timer1.SetResting(true);
     connect(&m_Timer1, &forms::Timer::ThatTime, this, &clsWave::Timer1_ThatTime);
     Class_Initialize();
 }

@@ -71,6 +71,17 @@ TEST_F(WaveTest, PlayDurationIsTheWholeSecondsBetweenStartAndStop) {
     EXPECT_EQ(wave->LastPlayDuration(), 65);
 }
 
+// Seconds as parts of a day are never exact.
+TEST_F(WaveTest, EachPlayDurationOfAMinuteIsItsWholeSeconds) {
+    for (int second = 0; second < 60; ++second) {
+        clock.time.second = 0;
+        play();
+        clock.time.second = second;
+        wave->StopPlayRec();
+        EXPECT_EQ(wave->LastPlayDuration(), second);
+    }
+}
+
 TEST_F(WaveTest, RecordingThatStopsIsToldWithItsSeconds) {
     QSignalSpy saved(wave.get(), &clsWave::FileSaved);
     QSignalSpy recorded(wave.get(), &clsWave::RecordDone);

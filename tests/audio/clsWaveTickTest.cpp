@@ -126,9 +126,16 @@ TEST_F(WaveTest, TimerTicksByItselfWhilePlaying) {
 
 TEST_F(WaveTest, OwnerMayLetGoWhileATickRuns) {
     play();
-    QObject::connect(wave.get(), &clsWave::Progress, [this] { wave.reset(); });
+    const std::weak_ptr<ReachableWave> kept = wave;
+    bool livesOn = false;
+    QObject::connect(wave.get(), &clsWave::Progress, [&] {
+        wave.reset();
+        livesOn = !kept.expired();
+    });
     forms::Timer& timer = wave->Timer1();
     Q_EMIT timer.ThatTime();
+    EXPECT_TRUE(livesOn);
+    EXPECT_TRUE(kept.expired());
     EXPECT_EQ(wave, nullptr);
     EXPECT_THAT(sound.takeLog(), testing::Contains("graph gone"));
 }

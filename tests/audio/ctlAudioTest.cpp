@@ -1,7 +1,10 @@
 // SPDX-FileCopyrightText: 2026 The qmClient authors
 // SPDX-License-Identifier: GPL-3.0-or-later
+#include "platform/forms/Events.h"
 #include "resources/StringTable.h"
 #include "tests/audio/PlayerTest.h"
+
+#include <functional>
 
 namespace audio {
 namespace {
@@ -63,6 +66,20 @@ TEST_F(PlayerTest, EachCommandReachesTheEngineAndTellsTheState) {
     EXPECT_EQ(changes, 6); // the stop's PlayDone tells it as well
 }
 
+TEST_F(PlayerTest, EachCommandDrawsIt) {
+    useRecordedSurface();
+    play();
+    const auto draws = [this](const std::function<void()>& command) {
+        surface->log.clear();
+        command();
+        return testing::Value(surface->log, testing::Contains("Cls"));
+    };
+    EXPECT_TRUE(draws([this] { player->Forward(); }));
+    EXPECT_TRUE(draws([this] { player->Backward(); }));
+    EXPECT_TRUE(draws([this] { player->Pause(); }));
+    EXPECT_TRUE(draws([this] { player->StopPlay(); }));
+}
+
 TEST_F(PlayerTest, MarkerIsHiddenAtTheEndOfTheFile) {
     play();
     sound.isRunning = false;
@@ -97,6 +114,16 @@ TEST_F(PlayerTest, UnInitWindsTheEngineDownForHalfASecondAndLetsItGo) {
     EXPECT_THAT(slept, IsEmpty());
 }
 
+TEST_F(PlayerTest, UnInitLetsWaitingEventsRunBeforeItWindsDown) {
+    play();
+    slept.clear();
+    bool isBefore = false;
+    QMetaObject::invokeMethod(
+        player.get(), [&] { isBefore = slept.empty(); }, Qt::QueuedConnection);
+    player->UnInit();
+    EXPECT_TRUE(isBefore);
+}
+
 TEST_F(PlayerTest, CommandsWithoutAnEngineOnlyTellTheState) {
     player->UnInit();
     sound.takeLog();
@@ -124,9 +151,19 @@ TEST_F(PlayerTest, EngineThatSomebodyKeepsIsStoppedWhenThePlayerEnds) {
     EXPECT_EQ(kept->Timer1().Interval(), 0);
 }
 
-TEST_F(PlayerTest, RefreshAndHandleAreThere) {
+TEST_F(PlayerTest, RefreshPaintsItAgain) {
+    useRecordedSurface();
+    player->show();
+    ASSERT_TRUE(QTest::qWaitFor([this] { return surface->paints > 0; }));
+    forms::doEvents();
+    surface->paints = 0;
     player->Refresh();
+    EXPECT_TRUE(QTest::qWaitFor([this] { return surface->paints > 0; }));
+}
+
+TEST_F(PlayerTest, HasAHandleAndTheHeightOfTwoHundredAndTwentyFiveTwips) {
     EXPECT_NE(player->hWnd(), 0U);
+    EXPECT_EQ(player->sizeHint().height(), 15);
 }
 
 } // namespace

@@ -131,6 +131,22 @@ TEST_F(PlayerTest, IsASliderWithANameAndAValueToAssistivePrograms) {
     EXPECT_EQ(slider->valueInterface()->currentValue().toDouble(), 0);
 }
 
+TEST_F(PlayerTest, LeavesOtherKeysToItsWindow) {
+    QKeyEvent key(QEvent::KeyPress, Qt::Key_A, Qt::NoModifier);
+    QCoreApplication::sendEvent(player.get(), &key);
+    EXPECT_FALSE(key.isAccepted());
+}
+
+TEST_F(PlayerTest, ShowsWhetherItHasTheFocus) {
+    player->activateWindow();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(player.get()));
+    player->setAttribute(Qt::WA_KeyboardFocusChange); // as Tab does
+    player->setFocus();
+    const QImage focused = player->grab().toImage();
+    player->clearFocus();
+    EXPECT_NE(player->grab().toImage(), focused);
+}
+
 TEST_F(PlayerTest, IsDrawnAnewInTheColoursOfAnotherPalette) {
     useRecordedSurface();
     surface->log.clear();

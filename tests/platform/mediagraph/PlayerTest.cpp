@@ -3,6 +3,7 @@
 // What a player does step by step, where the order of things is what counts.
 
 #include "tests/platform/mediagraph/PlayedAlone.h"
+#include "tests/platform/mediagraph/Recording.h"
 
 #include <gtest/gtest.h>
 
@@ -28,6 +29,19 @@ TEST(PlayerAlone, PlaysTheNewestOrderAfterAFailureOfAnEarlierOne) {
     world.server.start();
     const double position = played.desk->position();
     EXPECT_TRUE(played.comesTo(position + 0.1));
+}
+
+// Not at the last beat's: that one may be long ago on a busy machine.
+TEST(PlayerAlone, TellsThePlaceOfThePauseItself) {
+    SoundWorld world;
+    PlayedAlone played(world, world.makeMessage(5), kDefault);
+    played.desk->want(PlayState::Playing);
+    ASSERT_TRUE(played.comesTo(0.1));
+    const double position = played.desk->position();
+    Recording("first", world.pathOf("passed")).finish(0.5);
+    played.desk->want(PlayState::Paused);
+    played.player.step(played.newest());
+    EXPECT_GT(played.desk->position(), position + 0.3);
 }
 
 } // namespace
