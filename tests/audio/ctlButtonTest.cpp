@@ -2,10 +2,12 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "audio/ctlButton.h"
 
+#include "platform/forms/Events.h"
 #include "tests/audio/RecordedSurface.h"
 #include "tests/errors/RecordingErrorHandler.h"
 
 #include <QLabel>
+#include <QTest>
 
 #include <gmock/gmock.h>
 
@@ -60,6 +62,20 @@ TEST_F(ButtonTest, IsDrawnAnewInTheColoursOfAnotherPalette) {
 TEST_F(ButtonTest, ShowsWhatItDraws) {
     make(600, 300).grab();
     EXPECT_GT(surface->paints, 0);
+}
+
+TEST_F(ButtonTest, DrawingPaintsItAgain) {
+    make(600, 300).show();
+    ASSERT_TRUE(QTest::qWaitFor([this] { return surface->paints > 0; }));
+    forms::doEvents();
+    surface->paints = 0;
+    button->Draw();
+    EXPECT_TRUE(QTest::qWaitFor([this] { return surface->paints > 0; }));
+}
+
+TEST_F(ButtonTest, PictureStandsInItsMiddle) {
+    make(600, 300);
+    EXPECT_EQ(button->picTop().alignment(), Qt::AlignCenter);
 }
 
 TEST_F(ButtonTest, ReportsUnderTwoModuleNames) {
