@@ -238,6 +238,18 @@ TEST(APlayingGraph, LetsTheDeviceGoWhenItIsStoppedAndGoesOnWhereItWas) {
     EXPECT_EQ(endOf(*graph), EventCode::Complete);
 }
 
+TEST(APlayingGraph, IsHeardOnceThoughItIsRunAgain) {
+    SoundWorld world;
+    const auto graph = world.connected(world.makeMessage(30));
+    graph->Run();
+    ASSERT_TRUE(comesTo(*graph, 0.2));
+    graph->Pause();
+    ASSERT_TRUE(waitUntil([&] { return world.server.streamCount() == 0; }));
+    graph->Run();
+    ASSERT_TRUE(comesTo(*graph, graph->CurrentPosition() + 0.3));
+    EXPECT_EQ(world.server.streamCount(), 1U);
+}
+
 TEST(APlayingGraph, LetsTheDeviceGoWhenItIsReleased) {
     SoundWorld world;
     auto graph = world.connected(world.makeMessage(5));

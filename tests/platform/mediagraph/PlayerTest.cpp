@@ -31,6 +31,15 @@ TEST(PlayerAlone, PlaysTheNewestOrderAfterAFailureOfAnEarlierOne) {
     EXPECT_TRUE(played.comesTo(position + 0.1));
 }
 
+TEST(PlayerAlone, CountsOnFromThePlaceWhereItBegan) {
+    SoundWorld world;
+    PlayedAlone played(world, world.makeMessage(5), kDefault);
+    played.desk->seek(2);
+    played.desk->want(PlayState::Playing);
+    ASSERT_TRUE(played.stepsUntil([&] { return played.desk->position() != 2; }));
+    EXPECT_GT(played.desk->position(), 2);
+}
+
 // Not at the last beat's: that one may be long ago on a busy machine.
 TEST(PlayerAlone, TellsThePlaceOfThePauseItself) {
     SoundWorld world;
