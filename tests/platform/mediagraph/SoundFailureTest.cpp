@@ -61,6 +61,14 @@ TEST(SoundServerFailure, LeavesNoDeviceInTheList) {
     EXPECT_EQ(world.sound().graphs().newFilgraphManager()->RegFilterCollection()->Count(), 1);
 }
 
+TEST(SoundServerFailure, ByHangingLeavesNoDeviceInTheList) {
+    SoundWorld world;
+    world.server.freeze();
+    EXPECT_EQ(world.sound().waveOut().waveOutGetNumDevs(), 0U);
+    world.server.thaw();
+    EXPECT_TRUE(waitUntil([&] { return world.sound().waveOut().waveOutGetNumDevs() == 3; }));
+}
+
 TEST(SoundServerFailure, ByHangingEndsThePlayInAnError) {
     SoundWorld world;
     const auto graph = world.connected(world.makeMessage(1));
