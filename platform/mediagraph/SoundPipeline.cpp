@@ -14,8 +14,8 @@ namespace {
 
 // How much sound goes to the sound server at once. By default a quarter of it, which costs a third more.
 constexpr gint64 kPieceMicroseconds = 40'000;
-// How much sound the sound server holds. By default less than half of it, and a workstation that stands still
-// for a tenth of a second is heard as a gap.
+// How much sound the sound server or the card holds. By default less than half of it, and a workstation that
+// stands still for a tenth of a second is heard as a gap. PipeWire's sink has a way of its own.
 constexpr gint64 kBufferMicroseconds = 500'000;
 
 GstElement* newElement(const std::string& kind) {
@@ -41,8 +41,10 @@ GstElement* newSink(const OutputDevice& device) {
     const char* property = hasProperty(sink, "device") ? "device" : "target-object";
     if (!device.address.empty())
         g_object_set(sink, property, device.address.c_str(), nullptr);
+    if (hasProperty(sink, "buffer-time"))
+        g_object_set(sink, "buffer-time", kBufferMicroseconds, nullptr);
     if (device.element == "pulsesink")
-        g_object_set(sink, "latency-time", kPieceMicroseconds, "buffer-time", kBufferMicroseconds, nullptr);
+        g_object_set(sink, "latency-time", kPieceMicroseconds, nullptr);
     if (device.element == "pipewiresink")
         stayAtDevice(sink);
     return sink;
