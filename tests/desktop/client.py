@@ -34,10 +34,20 @@ class Client:
                 raise DesktopError(f'the client has ended ({self.process.popen.returncode}): '
                                    f'{self.process.errors()[-800:]}')
             return self.desktop.tray.icons()
-        icon = wait_until(docked, 'the icon to dock', START_SECONDS)[0]
+        wait_until(docked, 'the icon to dock', START_SECONDS)
         reader = self.desktop.reader()
         wait_until(lambda: self.process.pid in reader.ask('programs'), 'the client to be readable')
-        return icon
+        return self._wait_resting(lambda: docked()[0])
+
+    @staticmethod
+    def _wait_resting(icon):
+        """The same place at two looks: a panel moves while it makes room for an icon."""
+        places = []
+
+        def rests():
+            places.append(icon())
+            return places[-1] if places[-2:-1] == places[-1:] else None
+        return wait_until(rests, 'the icon to rest', interval=0.1)
 
     # Menu
 
