@@ -163,12 +163,23 @@ MessageReader gatedReader(const std::shared_ptr<Gate>& gate, Waiting& waiting, W
     return readerOf([gate] { return std::make_unique<GatedFile>(gate); }, waiting, limits);
 }
 
+class CountingWait final : public Waiting {
+public:
+    int passes = 0;
+    bool pass(milliseconds time) override {
+        ++passes;
+        return SleepWaiting().pass(time);
+    }
+};
+
+// The server has more time than a machine at a standstill takes away: the caller lives on at least once.
 TEST(MessageReader, GivesUpOnAServerThatStopsAnswering) {
     const auto gate = std::make_shared<Gate>();
-    SleepWaiting waiting;
-    auto reader = gatedReader(gate, waiting, {milliseconds{50}, std::chrono::minutes{10}});
+    CountingWait waiting;
+    auto reader = gatedReader(gate, waiting, {std::chrono::seconds{1}, std::chrono::minutes{10}});
     EXPECT_EQ(errorTextOf([&] { reader.read("m.wav"); }),
               "m.wav: the server does not answer. The message could not be read.");
+    EXPECT_GT(waiting.passes, 0);
     gate->open();
     gate->awaitLeaving();                              // the thread that was left behind closes its file
     EXPECT_LE(gate->reads, 1) << "read on for nobody"; // none, where the thread came late
