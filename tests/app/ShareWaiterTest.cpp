@@ -50,6 +50,15 @@ TEST_F(ShareWaiterTest, EndsAtTheDeadline) {
     EXPECT_EQ(wait(1ms), Waited::TimeOver);
 }
 
+// Longer than the wait may take.
+TEST_F(ShareWaiterTest, HearsAnAnswerThatComesAfterAStandstill) {
+    QTimer::singleShot(0, &m_waiter, [this] {
+        std::this_thread::sleep_for(300ms);
+        QTimer::singleShot(10ms, &m_waiter, [this] { answer(); });
+    });
+    EXPECT_EQ(wait(200ms), Waited::Ready);
+}
+
 TEST_F(ShareWaiterTest, DoesNotCountTheTimeInWhichTheProgramStoodStill) {
     constexpr auto kPart = 20ms;
     static constexpr auto kStandstill = kPart * (share::smb::kPartsOfAWait / 2);
@@ -171,9 +180,10 @@ TEST_F(ShareWaiterTest, DropsSuchWorkAtTheEndOfTheProgram) {
 class InputTest : public ShareWaiterTest {
 protected:
     InputTest() {
-        // A shortcut's click comes some time after this.
+        // A shortcut's click comes some time after its press.
         QObject::connect(&m_button, &QPushButton::pressed, &m_button,
                          [this] { m_wasWaiting = m_waiter.isWaiting(); });
+        QObject::connect(&m_button, &QPushButton::clicked, &m_button, [this] { ++m_clicks; });
         m_button.show();
         EXPECT_TRUE(QTest::qWaitForWindowExposed(&m_button));
     }
@@ -190,19 +200,20 @@ protected:
         });
     }
     void click() { QTest::mouseClick(m_button.windowHandle(), Qt::LeftButton, {}, m_button.rect().center()); }
-    bool isPressed() {
-        return QTest::qWaitFor([this] { return m_wasWaiting.has_value(); });
+    bool isClicked() {
+        return QTest::qWaitFor([this] { return m_clicks > 0; });
     }
 
     QPushButton m_button{QStringLiteral("&Save")};
-    std::optional<bool> m_wasWaiting;
+    std::optional<bool> m_wasWaiting; // when it was pressed
+    int m_clicks = 0;
 };
 
 TEST_F(InputTest, IsHeldInALongWaitAndHandedOutAfterwards) {
     whenTheWaitIsLong([this] { click(); });
     EXPECT_EQ(wait(), Waited::Ready);
     EXPECT_EQ(m_wasWaiting, std::nullopt);
-    ASSERT_TRUE(isPressed());
+    ASSERT_TRUE(isClicked());
     EXPECT_EQ(m_wasWaiting, false);
 }
 
@@ -212,7 +223,7 @@ TEST_F(InputTest, IsNotHandedOutInsideOfTheNextWait) {
     m_here.receive();
     EXPECT_EQ(wait(100ms), Waited::TimeOver);
     EXPECT_EQ(m_wasWaiting, std::nullopt);
-    EXPECT_TRUE(isPressed());
+    EXPECT_TRUE(isClicked());
 }
 
 TEST_F(InputTest, OfAShortcutIsHeldToo) {
@@ -223,7 +234,7 @@ TEST_F(InputTest, OfAShortcutIsHeldToo) {
     });
     EXPECT_EQ(wait(), Waited::Ready);
     EXPECT_EQ(m_wasWaiting, std::nullopt);
-    ASSERT_TRUE(isPressed());
+    ASSERT_TRUE(isClicked());
     EXPECT_EQ(m_wasWaiting, false);
 }
 
@@ -248,8 +259,13 @@ TEST_F(InputTest, IsDroppedForAWindowThatADialogCovers) {
     EXPECT_TRUE(QTest::qWaitForWindowExposed(&dialog));
     QCoreApplication::processEvents(); // hands out what is not dropped
     dialog.reject();
+    m_here.receive();
+    EXPECT_EQ(wait(1ms), Waited::TimeOver); // its end hands out as well
     QCoreApplication::processEvents();
     EXPECT_EQ(m_wasWaiting, std::nullopt);
+    click();
+    EXPECT_TRUE(isClicked());
+    EXPECT_EQ(m_clicks, 1);
 }
 
 TEST_F(InputTest, ForAWindowThatIsGoneIsDropped) {
@@ -260,7 +276,7 @@ TEST_F(InputTest, ForAWindowThatIsGoneIsDropped) {
     EXPECT_EQ(wait(), Waited::Ready);
     gone.reset();
     click();
-    EXPECT_TRUE(isPressed());
+    EXPECT_TRUE(isClicked());
 }
 
 } // namespace
