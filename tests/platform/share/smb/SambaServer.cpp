@@ -2,9 +2,13 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "tests/platform/share/smb/SambaServer.h"
 
+#include "platform/share/FileDescriptor.h"
+
 #include <arpa/inet.h>
 #include <netinet/in.h>
+#include <poll.h>
 #include <sys/socket.h>
+#include <sys/syscall.h>
 #include <sys/wait.h>
 #include <unistd.h>
 
@@ -15,7 +19,6 @@
 #include <cstdlib>
 #include <filesystem>
 #include <fstream>
-#include <functional>
 #include <iterator>
 #include <stdexcept>
 #include <thread>
@@ -23,16 +26,11 @@
 namespace share::testing {
 namespace {
 
-constexpr std::chrono::seconds kPatience{60};
+constexpr std::chrono::milliseconds kPatience{60'000};
 
-// A descriptor that closes itself.
-struct Socket {
-    int descriptor = ::socket(AF_INET, SOCK_STREAM | SOCK_CLOEXEC, 0);
-    Socket() = default;
-    Socket(const Socket&) = delete;
-    Socket& operator=(const Socket&) = delete;
-    ~Socket() { ::close(descriptor); }
-};
+FileDescriptor newSocket() {
+    return FileDescriptor(::socket(AF_INET, SOCK_STREAM | SOCK_CLOEXEC, 0));
+}
 
 sockaddr_in loopback(std::uint16_t port) {
     sockaddr_in address{};
@@ -43,29 +41,38 @@ sockaddr_in loopback(std::uint16_t port) {
 }
 
 std::uint16_t freePort() {
-    const Socket socket;
+    const FileDescriptor socket = newSocket();
     sockaddr_in address = loopback(0);
     socklen_t size = sizeof address;
-    if (::bind(socket.descriptor, reinterpret_cast<sockaddr*>(&address), sizeof address) != 0 ||
-        ::getsockname(socket.descriptor, reinterpret_cast<sockaddr*>(&address), &size) != 0)
+    if (::bind(socket.get(), reinterpret_cast<sockaddr*>(&address), sizeof address) != 0 ||
+        ::getsockname(socket.get(), reinterpret_cast<sockaddr*>(&address), &size) != 0)
         throw std::runtime_error("no free port");
     return ntohs(address.sin_port);
 }
 
 bool answers(std::uint16_t port) {
-    const Socket socket;
+    const FileDescriptor socket = newSocket();
     const sockaddr_in address = loopback(port);
-    return ::connect(socket.descriptor, reinterpret_cast<const sockaddr*>(&address), sizeof address) == 0;
+    return ::connect(socket.get(), reinterpret_cast<const sockaddr*>(&address), sizeof address) == 0;
 }
 
-void waitFor(const char* what, const std::function<bool()>& condition) {
-    const auto end = std::chrono::steady_clock::now() + kPatience;
-    while (!condition()) {
-        if (std::chrono::steady_clock::now() > end)
+// A process that somebody else started: its end is seen without being its parent. The C library's own calls
+// lack their C linkage in its version 2.36.
+class Process {
+public:
+    explicit Process(pid_t id) : m_descriptor(static_cast<int>(::syscall(SYS_pidfd_open, id, 0))) {}
+
+    void send(int signal) const { ::syscall(SYS_pidfd_send_signal, m_descriptor.get(), signal, nullptr, 0); }
+    // One that was gone already has ended as well.
+    void awaitEnd(const char* what) const {
+        pollfd ended{m_descriptor.get(), POLLIN, 0};
+        if (m_descriptor.isOpen() && ::poll(&ended, 1, static_cast<int>(kPatience.count())) != 1)
             throw std::runtime_error(std::string("smbd: ") + what);
-        std::this_thread::sleep_for(std::chrono::milliseconds(10));
     }
-}
+
+private:
+    FileDescriptor m_descriptor;
+};
 
 std::string contentOf(const std::filesystem::path& path) {
     std::ifstream stream(path, std::ios::binary);
@@ -133,12 +140,16 @@ void SambaServer::start() {
     waitUntilItAnswers();
 }
 
+// Nobody is told that another process listens.
 void SambaServer::waitUntilItAnswers() const {
-    waitFor("it does not start", [this] {
+    const auto end = std::chrono::steady_clock::now() + kPatience;
+    while (!answers(m_port)) {
         if (::waitpid(m_id, nullptr, WNOHANG) == m_id)
             throw std::runtime_error("smbd ended: " + contentOf(m_own.path("out")));
-        return answers(m_port);
-    });
+        if (std::chrono::steady_clock::now() > end)
+            throw std::runtime_error("smbd: it does not start");
+        std::this_thread::sleep_for(std::chrono::milliseconds(10));
+    }
 }
 
 void SambaServer::kill() {
@@ -157,14 +168,12 @@ void SambaServer::endNamesService() const {
     pid_t id = -1;
     if (!(file >> id) || id <= 1)
         return;
-    const std::filesystem::path process = "/proc/" + std::to_string(id);
-    const auto isThere = [&] {
-        return contentOf(process / "cmdline").find(m_own.path("smb.conf")) != std::string::npos;
-    };
-    if (!isThere())
+    const Process service(id);
+    const std::string command = contentOf("/proc/" + std::to_string(id) + "/cmdline");
+    if (command.find(m_own.path("smb.conf")) == std::string::npos)
         return;
-    ::kill(id, SIGTERM);
-    waitFor("its service for names does not end", [&] { return !isThere(); });
+    service.send(SIGTERM);
+    service.awaitEnd("its service for names does not end");
 }
 
 void SambaServer::pause() {
@@ -184,9 +193,11 @@ void SambaServer::cutConnections() {
     const std::vector<pid_t> victims = connections();
     if (victims.empty())
         throw std::runtime_error("smbd has no connection to cut");
-    for (const pid_t id : victims)
-        ::kill(id, SIGKILL);
-    waitFor("connections stay", [this] { return connections().empty(); });
+    for (const pid_t id : victims) {
+        const Process connection(id);
+        connection.send(SIGKILL);
+        connection.awaitEnd("a connection stays");
+    }
 }
 
 // One process for each; smbd's other processes say in their names what they are for.
