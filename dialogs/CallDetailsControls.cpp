@@ -53,7 +53,6 @@ QPushButton* arrowButton(QDialog& dialog, const QIcon& icon, const QString& name
     button->setToolTip(name);
     button->setAccessibleName(name);
     button->setShortcut(QKeySequence(Qt::ALT | key));
-    button->setAutoDefault(false);
     button->setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Preferred);
     return button;
 }
@@ -114,7 +113,6 @@ void CallDetailsControls::addButtons(QBoxLayout& column, QDialog& dialog) {
     cmdUp = arrowButton(dialog, resources::stepIcon(false), localText(5060, "Previous call"), Qt::Key_Up);
     cmdDown = arrowButton(dialog, resources::stepIcon(true), localText(5061, "Next call"), Qt::Key_Down);
     cmdCopy = new QPushButton(localText(5062, "Copy"), &dialog);
-    cmdCopy->setAutoDefault(false);
     Command1 = new QPushButton(localText(129, "Close"), &dialog);
     Command1->setDefault(true);
     auto* row = new QHBoxLayout;

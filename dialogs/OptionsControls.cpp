@@ -11,7 +11,6 @@
 #include <QLineEdit>
 #include <QProgressBar>
 #include <QPushButton>
-#include <QToolButton>
 #include <QVBoxLayout>
 
 namespace dialogs {
@@ -62,9 +61,7 @@ void OptionsControls::addFields(QWidget& page) {
     txtServer = named(new QLineEdit, "txtServer");
     txtServer->setReadOnly(true);
     Label1->setBuddy(txtServer);
-    cmdServer = named(new QToolButton, "cmdServer");
-    cmdServer->setText(QStringLiteral("..."));
-    cmdServer->setFocusPolicy(Qt::StrongFocus);
+    cmdServer = named(new QPushButton(QStringLiteral("...")), "cmdServer");
     grid->addWidget(Label1, 0, 0);
     grid->addWidget(txtServer, 0, 1, 1, 2);
     grid->addWidget(cmdServer, 0, 3);
@@ -104,7 +101,6 @@ void OptionsControls::addButtons(QDialog& dialog) {
     cmdOK = named(new QPushButton, "cmdOK");
     cmdCancel = named(new QPushButton, "cmdCancel");
     cmdOK->setDefault(true);
-    cmdCancel->setAutoDefault(false);
     row->addWidget(cmdOK);
     row->addWidget(cmdCancel);
     qobject_cast<QVBoxLayout*>(dialog.layout())->addLayout(row);

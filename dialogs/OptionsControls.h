@@ -10,7 +10,6 @@ class QLabel;
 class QLineEdit;
 class QProgressBar;
 class QPushButton;
-class QToolButton;
 class QWidget;
 
 namespace forms {
@@ -30,7 +29,7 @@ struct OptionsControls {
     QFrame* Frame1 = nullptr; // around the fields
     QLabel* Label1 = nullptr; // of the server
     QLineEdit* txtServer = nullptr;
-    QToolButton* cmdServer = nullptr;
+    QPushButton* cmdServer = nullptr;
     QLabel* Label2 = nullptr; // of the interval
     QLineEdit* txtInterval = nullptr;
     QLabel* Label3 = nullptr; // the interval's unit

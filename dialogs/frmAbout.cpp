@@ -86,7 +86,6 @@ void frmAbout::layOut() {
     m_cmdOK->setObjectName(QStringLiteral("cmdOK"));
     m_cmdOK->setDefault(true);
     m_cmdSysInfo->setObjectName(QStringLiteral("cmdSysInfo"));
-    m_cmdSysInfo->setAutoDefault(false);
     m_Label1->setObjectName(QStringLiteral("Label1"));
     m_Label1->setFrameStyle(QFrame::HLine | QFrame::Sunken);
     m_Picture1->setPixmap(resources::programIcon().pixmap(QSize(kLogoSize, kLogoSize), devicePixelRatio()));

@@ -14,7 +14,6 @@
 #include <QLineEdit>
 #include <QProgressBar>
 #include <QPushButton>
-#include <QToolButton>
 
 #include <cmath>
 #include <utility>
@@ -38,7 +37,7 @@ frmOptions::frmOptions(errors::ErrorHandler& errorHandler, const data::basCommon
     Form_Load();
     connect(m_controls.cmdOK, &QPushButton::clicked, this, &frmOptions::cmdOK_Click);
     connect(m_controls.cmdCancel, &QPushButton::clicked, this, &frmOptions::reject);
-    connect(m_controls.cmdServer, &QToolButton::clicked, this, &frmOptions::cmdServer_Click);
+    connect(m_controls.cmdServer, &QPushButton::clicked, this, &frmOptions::cmdServer_Click);
 }
 
 frmOptions::~frmOptions() {

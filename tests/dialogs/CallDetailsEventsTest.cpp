@@ -90,6 +90,23 @@ TEST_F(CallDetailsEventsTest, UnInitEndsTheFollowingAndLetsTheConnectionGo) {
     EXPECT_EQ(shownCall(), "A1");
 }
 
+TEST_F(CallDetailsEventsTest, ReturnPressesTheButtonThatHasTheFocus) {
+    world.announce("A2");
+    world.dialog->show();
+    const auto press = [this](const char* button) {
+        world.control<QPushButton>(button).setFocus();
+        QTest::keyClick(world.dialog->focusWidget(), Qt::Key_Return);
+    };
+    press("cmdUp");
+    press("cmdDown");
+    EXPECT_THAT(world.selection.moves, testing::ElementsAre(false, true));
+    press("cmdCopy");
+    EXPECT_THAT(world.clipboard.text, testing::HasSubstr("\tA2\r\n"));
+    EXPECT_TRUE(world.dialog->isVisible());
+    press("Command1");
+    EXPECT_FALSE(world.dialog->isVisible());
+}
+
 TEST_F(CallDetailsEventsTest, CloseButtonFrameAndEscapeOnlyHide) {
     const auto hides = [this](auto&& close) {
         world.dialog->show();

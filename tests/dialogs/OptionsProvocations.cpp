@@ -5,7 +5,6 @@
 
 #include <QLineEdit>
 #include <QPushButton>
-#include <QToolButton>
 
 namespace dialogs {
 namespace {
@@ -46,7 +45,7 @@ const Provocation kServer{
         world.servers.answer = QStringLiteral("other");
         world.servers.onSelect = [] { throw basic::RuntimeError(basic::kInvalidProcedureCall); };
         trial.repair = [&] { world.servers.onSelect = nullptr; };
-        world.control<QToolButton>("cmdServer").click();
+        world.control<QPushButton>("cmdServer").click();
         return {world.config->ServerName == "other"};
     }};
 

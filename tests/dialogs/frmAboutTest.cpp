@@ -96,6 +96,14 @@ TEST_F(frmAboutTest, SystemInfoStartsTheProgramAndTheBoxStays) {
     EXPECT_TRUE(form->isVisible());
 }
 
+TEST_F(frmAboutTest, ReturnPressesTheButtonThatHasTheFocus) {
+    load();
+    form->findChild<QPushButton*>(QStringLiteral("cmdSysInfo"))->setFocus();
+    QTest::keyClick(form->focusWidget(), Qt::Key_Return);
+    EXPECT_EQ(world.messageBoxes.boxes.size(), 1U);
+    EXPECT_TRUE(form->isVisible());
+}
+
 TEST_F(frmAboutTest, SystemInfoIsReachedByItsAccessKey) {
     load();
     QTest::keyClick(form.get(), Qt::Key_S, Qt::AltModifier);

@@ -2,8 +2,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "tests/dialogs/OptionsTest.h"
 
-#include <QToolButton>
-
 namespace dialogs {
 namespace {
 
@@ -75,7 +73,7 @@ TEST_P(CancelTest, SavesNothingAndPutsTheSettingsBack) {
     openWithList();
     showActive();
     const auto before = registry::RegistryFolder::content(folder.path("registry.reg"));
-    control<QToolButton>("cmdServer").click();
+    control<QPushButton>("cmdServer").click();
     ASSERT_EQ(config->ServerName, "other");
     cancel();
     EXPECT_TRUE(dialog->Cancelled());
@@ -96,7 +94,7 @@ TEST_F(frmOptionsTest, AnotherServerClearsTheChoiceAndShowsItsMailboxes) {
     errorHandler.answers = {ErrorAction::Ignore};
     openWithList();
     servers.answer = QStringLiteral("\\\\srv01");
-    control<QToolButton>("cmdServer").click();
+    control<QPushButton>("cmdServer").click();
     ASSERT_TRUE(QTest::qWaitFor([this] { return !search.isSearching(); }));
     EXPECT_THAT(servers.shown, ElementsAre("old"));
     EXPECT_EQ(control<QLineEdit>("txtServer").text(), QStringLiteral("\\\\srv01"));
@@ -109,7 +107,7 @@ TEST_F(frmOptionsTest, AChoiceThatIsCancelledChangesNothing) {
     mailbox("12");
     watch(12);
     openWithList();
-    control<QToolButton>("cmdServer").click();
+    control<QPushButton>("cmdServer").click();
     EXPECT_EQ(config->ServerName, "srv01");
     EXPECT_EQ(config->Mailboxes.Count(), 1);
     EXPECT_THAT(rows(), ElementsAre("+12|Sales|first floor"));

@@ -4,7 +4,6 @@
 
 #include <QLabel>
 #include <QProgressBar>
-#include <QToolButton>
 
 #include <future>
 
@@ -55,12 +54,26 @@ TEST_F(frmOptionsTest, CheckBoxesAreToggledByKeyboardAndReturnMeansOK) {
     EXPECT_THAT(savedMailboxes(), ElementsAre("15|Sales|first floor|M"));
 }
 
+TEST_F(frmOptionsTest, ReturnPressesTheButtonThatHasTheFocus) {
+    mailbox("12");
+    openWithList();
+    showActive();
+    control<QPushButton>("cmdServer").setFocus();
+    QTest::keyClick(dialog->focusWidget(), Qt::Key_Return);
+    EXPECT_THAT(servers.shown, ElementsAre("srv01"));
+    ASSERT_TRUE(dialog->isVisible());
+    control<QPushButton>("cmdCancel").setFocus();
+    QTest::keyClick(dialog->focusWidget(), Qt::Key_Return);
+    EXPECT_FALSE(dialog->isVisible());
+    EXPECT_TRUE(dialog->Cancelled());
+}
+
 TEST_F(frmOptionsTest, EverythingHasAnAccessibleName) {
     openWithList();
     EXPECT_EQ(control<QLineEdit>("txtServer").accessibleName(), QStringLiteral("Quillamar-Server:"));
     EXPECT_EQ(control<QLineEdit>("txtInterval").accessibleName(),
               QStringLiteral("Update-Interval: s (10s - 600s)"));
-    EXPECT_EQ(control<QToolButton>("cmdServer").accessibleName(), QStringLiteral("Choose server"));
+    EXPECT_EQ(control<QPushButton>("cmdServer").accessibleName(), QStringLiteral("Choose server"));
     EXPECT_EQ(view().accessibleName(), QStringLiteral("Mailboxes"));
 }
 
@@ -111,7 +124,7 @@ TEST_F(SlowShareTest, AnotherServerIsNotKeptWaitingByTheOneThatHangs) {
     open();
     beforeEachQuestion = [] {};
     servers.answer = QStringLiteral("srv01");
-    control<QToolButton>("cmdServer").click();
+    control<QPushButton>("cmdServer").click();
     ASSERT_TRUE(QTest::qWaitFor([this] { return !search.isSearching(); }));
     EXPECT_THAT(rows(), ElementsAre("12|Sales|first floor"));
 }
