@@ -7,6 +7,7 @@
 #include "data/basCommon.h"
 #include "platform/jet/Connection.h"
 
+#include <system_error>
 #include <utility>
 
 namespace app {
@@ -31,17 +32,21 @@ bool CountsAhead::ask(CountQuestion question, Done done) {
     } catch (const basic::RuntimeError&) {
         return false; // the routine finds out for itself
     }
+    try {
+        m_thread = std::jthread([this, question = std::move(question), done = std::move(done)] {
+            CountAnswers answers = answersTo(question);
+            QMetaObject::invokeMethod(
+                this,
+                [this, done, answers = std::move(answers)] {
+                    m_isAsking = false;
+                    done(answers);
+                },
+                Qt::QueuedConnection);
+        });
+    } catch (const std::system_error&) {
+        return false; // no thread now: a poll that waits is better than none
+    }
     m_isAsking = true;
-    m_thread = std::jthread([this, question = std::move(question), done = std::move(done)] {
-        CountAnswers answers = answersTo(question);
-        QMetaObject::invokeMethod(
-            this,
-            [this, done, answers = std::move(answers)] {
-                m_isAsking = false;
-                done(answers);
-            },
-            Qt::QueuedConnection);
-    });
     return true;
 }
 

@@ -59,7 +59,7 @@ bool Poll::askAhead() {
 }
 
 void Poll::runOver(CountAnswers answers, std::uint32_t generation) {
-    if (!m_parts.state.config)
+    if (!m_parts.state.config || m_parts.state.exitRequested)
         return;
     if (m_parts.state.generation == generation) {
         const QScopedValueRollback running(m_running, true);
@@ -93,7 +93,7 @@ void Poll::pollOnce() {
     const std::uint32_t generation = state.generation;
     const bool served = state.notConnected ? proc.value(false, [&] { return isServerThere(); })
                                            : countAll(proc, generation) && waitedForAnyone;
-    if (state.generation != generation)
+    if (state.generation != generation || state.exitRequested)
         return;
     if (served)
         proc.step([&] { m_parts.main.InitData(); }); // polls by itself, right after this one

@@ -5,10 +5,30 @@
 
 #include <QTest>
 
+#include <pthread.h>
+
+#include <cstddef>
 #include <filesystem>
 
 namespace app {
 namespace {
+
+// No process has room for the stack of a thread of this size.
+class NoThreads {
+public:
+    NoThreads() {
+        ::pthread_getattr_default_np(&m_before);
+        pthread_attr_t huge = m_before;
+        ::pthread_attr_setstacksize(&huge, std::size_t{1} << 46);
+        ::pthread_setattr_default_np(&huge);
+    }
+    NoThreads(const NoThreads&) = delete;
+    NoThreads& operator=(const NoThreads&) = delete;
+    ~NoThreads() { ::pthread_setattr_default_np(&m_before); }
+
+private:
+    pthread_attr_t m_before{};
+};
 
 // The main window over a server that is really asked: the list reads the share's folder, the counts come
 // ahead by SMB.
@@ -191,6 +211,33 @@ TEST_F(PollAheadTest, IsLeftByTheEndOfTheProgramAtOnce) {
     finishPoll(); // the question ended without its answer
 }
 
+TEST_F(PollAheadTest, AnnouncesNothingOnceTheProgramIsToEnd) {
+    loadTwelveCalls();
+    mailbox(12).append(3);
+    m_samba.pause();
+    tick();
+    window->state().exitRequested = true;
+    m_samba.resume();
+    finishPoll();
+    EXPECT_EQ(popup(), nullptr);
+    EXPECT_EQ(window->state().config->Mailboxes.at(1)->LastCallCount, 12);
+}
+
+TEST_F(PollAheadTest, LeavesTheTickThatEndsTheProgramItsTimeWhenTheServerComesUp) {
+    configure({12});
+    mailbox(12).append(12);
+    std::filesystem::rename(folder.path("share"), folder.path("away"));
+    loadAndLearn();
+    std::filesystem::rename(folder.path("away"), folder.path("share"));
+    const std::uint32_t generation = window->state().generation;
+    tick();
+    window->state().exitRequested = true;
+    window->timer().SetInterval(200);
+    finishPoll();
+    EXPECT_EQ(window->timer().Interval(), 200);
+    EXPECT_EQ(window->state().generation, generation);
+}
+
 TEST_F(PollAheadTest, FindsAServerThatComesUpLater) {
     configure({12});
     mailbox(12).append(12);
@@ -212,6 +259,20 @@ TEST_F(PollAheadTest, BuildsNothingAnewWhileTheServersShareIsMissing) {
     const std::uint32_t generation = window->state().generation;
     tickAndFinish();
     EXPECT_EQ(window->state().generation, generation);
+}
+
+TEST_F(PollAheadTest, IsLeftOutWhileThereIsNoThread) {
+    loadTwelveCalls();
+    mailbox(12).append(3);
+    {
+        const NoThreads none;
+        tick();
+    }
+    EXPECT_FALSE(m_counts.isAsking());
+    EXPECT_EQ(popupText(), "You have  3  new calls");
+    mailbox(12).append(1);
+    tickAndFinish();
+    EXPECT_EQ(popupText(), "You have  4  new calls");
 }
 
 TEST_F(PollAheadTest, IsNotUsedForAFolderOfThisMachine) {

@@ -70,6 +70,15 @@ TEST_F(ReentryTest, PollEndsWithoutAnAnnouncementWhenEverythingIsBuiltAnewMeanwh
     EXPECT_FALSE(window->state().firstPoll);
 }
 
+TEST_F(ReentryTest, PollEndsWithoutAnAnnouncementWhenTheProgramIsToEndMeanwhile) {
+    mailbox(12).append(1);
+    meanwhile([this] { window->state().exitRequested = true; });
+    tick();
+    EXPECT_TRUE(wasRun);
+    EXPECT_EQ(popup(), nullptr);
+    EXPECT_FALSE(window->isUnloaded());
+}
+
 TEST_F(ReentryTest, PollEndsWhenTheWindowIsUnloadedMeanwhile) {
     mailbox(12).append(1);
     meanwhile([this] { window->unload(UnloadMode::SessionEnd); });
