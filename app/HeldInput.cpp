@@ -58,6 +58,7 @@ bool isBlocked(QObject& receiver) {
 } // namespace
 
 void HeldInput::hold() {
+    m_dialog = QGuiApplication::modalWindow();
     QCoreApplication::instance()->installEventFilter(this);
 }
 
@@ -71,9 +72,15 @@ void HeldInput::handOut() {
             QCoreApplication::postEvent(held.receiver, held.event.release());
 }
 
+// The wait does not end before it is answered.
+bool HeldInput::isOfNewDialog(QObject& receiver) const {
+    const QWindow* modal = QGuiApplication::modalWindow();
+    return modal != nullptr && modal != m_dialog && !isBlocked(receiver);
+}
+
 bool HeldInput::eventFilter(QObject* receiver, QEvent* event) {
     if (!isInput(*receiver, *event) || QApplication::activePopupWidget() != nullptr ||
-        isNotificationIcon(*receiver))
+        isNotificationIcon(*receiver) || isOfNewDialog(*receiver))
         return false;
     m_held.push_back({receiver, std::unique_ptr<QEvent>(event->clone())});
     return true;

@@ -2,12 +2,14 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 // Keeps the user's keys and clicks from a program that waits for a server, and hands them out when it waits
-// no more. What the user may always use gets them at once: the notification icon and menus that are open.
-// Windows can be closed as well, for that is no input. User-interface thread.
+// no more. What the user may always use gets them at once: the notification icon, menus that are open, and a
+// dialog that came up in the wait, as the report of a failure does. Windows can be closed as well, for that
+// is no input. User-interface thread.
 
 #include <QEvent>
 #include <QObject>
 #include <QPointer>
+#include <QWindow>
 
 #include <memory>
 #include <vector>
@@ -30,9 +32,11 @@ private:
         std::unique_ptr<QEvent> event;
     };
 
+    bool isOfNewDialog(QObject& receiver) const;
     bool eventFilter(QObject* receiver, QEvent* event) override;
 
     std::vector<Held> m_held;
+    QPointer<QWindow> m_dialog; // that was up before
 };
 
 } // namespace app

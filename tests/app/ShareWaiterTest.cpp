@@ -251,6 +251,34 @@ TEST_F(InputTest, ReachesAMenuThatIsOpen) {
     EXPECT_TRUE(wasWaiting);
 }
 
+TEST_F(InputTest, ReachesADialogThatComesUpMeanwhile) {
+    QDialog dialog;
+    QPushButton ok(QStringLiteral("OK"), &dialog);
+    bool wasWaiting = false;
+    QObject::connect(&ok, &QPushButton::pressed, &ok, [&] { wasWaiting = m_waiter.isWaiting(); });
+    whenTheWaitIsLong([&] {
+        dialog.open();
+        EXPECT_TRUE(QTest::qWaitForWindowExposed(&dialog));
+        QTest::mouseClick(dialog.windowHandle(), Qt::LeftButton, {}, ok.geometry().center());
+    });
+    EXPECT_EQ(wait(), Waited::Ready);
+    EXPECT_TRUE(wasWaiting);
+}
+
+TEST_F(InputTest, OfADialogThatWaitsIsHeld) {
+    QDialog dialog;
+    QPushButton ok(QStringLiteral("OK"), &dialog);
+    QObject::connect(&ok, &QPushButton::pressed, &ok, [this] { m_wasWaiting = m_waiter.isWaiting(); });
+    dialog.open();
+    EXPECT_TRUE(QTest::qWaitForWindowExposed(&dialog));
+    whenTheWaitIsLong(
+        [&] { QTest::mouseClick(dialog.windowHandle(), Qt::LeftButton, {}, ok.geometry().center()); });
+    EXPECT_EQ(wait(), Waited::Ready);
+    EXPECT_EQ(m_wasWaiting, std::nullopt);
+    ASSERT_TRUE(isPressed());
+    EXPECT_EQ(m_wasWaiting, false);
+}
+
 TEST_F(InputTest, IsDroppedForAWindowThatADialogCovers) {
     whenTheWaitIsLong([this] { click(); });
     EXPECT_EQ(wait(), Waited::Ready);
