@@ -107,7 +107,7 @@ TEST_F(CallDetailsEventsTest, ReturnPressesTheButtonThatHasTheFocus) {
     EXPECT_FALSE(world.dialog->isVisible());
 }
 
-TEST_F(CallDetailsEventsTest, CloseButtonFrameAndEscapeOnlyHide) {
+TEST_F(CallDetailsEventsTest, CloseButtonFrameEscapeAndReturnOnlyHide) {
     const auto hides = [this](auto&& close) {
         world.dialog->show();
         close();
@@ -118,6 +118,11 @@ TEST_F(CallDetailsEventsTest, CloseButtonFrameAndEscapeOnlyHide) {
     hides([this] { click("Command1"); });
     hides([this] { world.dialog->close(); });
     hides([this] { QTest::keyClick(world.dialog.get(), Qt::Key_Escape); });
+    hides([this] {
+        world.dialog->activateWindow();
+        ASSERT_TRUE(QTest::qWaitForWindowActive(world.dialog.get()));
+        QTest::keyClick(world.dialog->focusWidget(), Qt::Key_Return);
+    });
 }
 
 TEST_F(CallDetailsEventsTest, IsModeless) {

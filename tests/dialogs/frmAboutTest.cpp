@@ -81,7 +81,7 @@ TEST_F(frmAboutTest, OkClosesIt) {
 
 TEST_F(frmAboutTest, ReturnAndEscapeCloseIt) {
     load();
-    QTest::keyClick(form.get(), Qt::Key_Return);
+    QTest::keyClick(form->focusWidget(), Qt::Key_Return);
     EXPECT_FALSE(form->isVisible());
     load();
     QTest::keyClick(form.get(), Qt::Key_Escape);
@@ -98,7 +98,7 @@ TEST_F(frmAboutTest, SystemInfoStartsTheProgramAndTheBoxStays) {
 
 TEST_F(frmAboutTest, ReturnPressesTheButtonThatHasTheFocus) {
     load();
-    form->findChild<QPushButton*>(QStringLiteral("cmdSysInfo"))->setFocus();
+    button("cmdSysInfo")->setFocus();
     QTest::keyClick(form->focusWidget(), Qt::Key_Return);
     EXPECT_EQ(world.messageBoxes.boxes.size(), 1U);
     EXPECT_TRUE(form->isVisible());
