@@ -8,7 +8,7 @@ namespace app {
 bool AskingFiles::FolderExists(std::string_view path) {
     for (;;) {
         const int answers = m_desk->answers(m_server);
-        if (m_files.FolderExists(path))
+        if (SmbFileSystemObject::FolderExists(path))
             return true;
         m_desk->waitForAnswer(m_server, m_waiter);
         if (m_desk->answers(m_server) == answers)

@@ -13,22 +13,16 @@
 
 namespace app {
 
-class AskingFiles final : public share::FileSystemObject {
+class AskingFiles final : public share::smb::SmbFileSystemObject {
 public:
     AskingFiles(share::smb::SmbServers& servers, share::smb::Waiter& waiter,
                 std::shared_ptr<const LogOnDesk> desk, std::string server)
-        : m_files(servers, waiter), m_waiter(waiter), m_desk(std::move(desk)), m_server(std::move(server)) {}
+        : SmbFileSystemObject(servers, waiter), m_waiter(waiter), m_desk(std::move(desk)),
+          m_server(std::move(server)) {}
 
     bool FolderExists(std::string_view path) override;
-    bool FileExists(std::string_view path) override { return m_files.FileExists(path); }
-    std::vector<std::string> SubFolders(std::string_view path) override { return m_files.SubFolders(path); }
-    void DeleteFile(std::string_view pattern, bool force) override { m_files.DeleteFile(pattern, force); }
-    std::unique_ptr<share::File> openFile(std::string_view path, share::OpenMode mode) override {
-        return m_files.openFile(path, mode);
-    }
 
 private:
-    share::smb::SmbFileSystemObject m_files;
     share::smb::Waiter& m_waiter;
     const std::shared_ptr<const LogOnDesk> m_desk;
     const std::string m_server;

@@ -27,40 +27,51 @@ struct Assignment {
     TextEntry text;
 };
 
+constexpr Assignment caption(int band, TextEntry text) {
+    return {band, kBandItself, Property::Caption, text};
+}
+
+constexpr Assignment caption(int band, int tool, TextEntry text) {
+    return {band, tool, Property::Caption, text};
+}
+
+constexpr Assignment toolTip(int band, int tool, TextEntry text) {
+    return {band, tool, Property::ToolTip, text};
+}
+
 // In the order in which they are made. A tool or a band that is not listed keeps the English text it was laid
 // out with. A tool tip is the description as well.
 constexpr std::array kAssignments{
-    Assignment{kBandStatus, 0, Property::Caption, TextEntry{3743, "Tool7"}},
-    Assignment{kBandStatus, 2, Property::Caption, TextEntry{3706, "Play Message"}},
-    Assignment{kBandStatus, 2, Property::ToolTip, TextEntry{3736, "Plays the selected message"}},
-    Assignment{kBandStatus, kBandItself, Property::Caption, TextEntry{3704, "Status"}},
-    Assignment{kBandMenu, 0, Property::Caption, TextEntry{3744, "&File"}},
-    Assignment{kBandMenu, 1, Property::Caption, TextEntry{3711, "&Edit"}},
-    Assignment{kBandMenu, 2, Property::Caption, TextEntry{3712, "&Tools"}},
-    Assignment{kBandMenu, 3, Property::Caption, TextEntry{3713, "&Help"}},
-    Assignment{kBandMenu, kBandItself, Property::Caption, TextEntry{3710, "Menu"}},
-    Assignment{kBandFile, 0, Property::Caption, TextEntry{3745, "&Hide window"}},
-    Assignment{kBandFile, 2, Property::Caption, TextEntry{3715, "&Exit Quillamar Client"}},
-    Assignment{kBandFile, kBandItself, Property::Caption, TextEntry{3738, "File"}},
-    Assignment{kBandHelp, 0, Property::Caption, TextEntry{3746, "&Contents..."}},
-    Assignment{kBandHelp, 0, Property::ToolTip, TextEntry{3747, "Display the help contents dialog"}},
-    Assignment{kBandHelp, 2, Property::Caption, TextEntry{3717, "About Quillamar Client"}},
-    Assignment{kBandHelp, kBandItself, Property::Caption, TextEntry{3739, "Help"}},
-    Assignment{kBandEdit, 0, Property::Caption, TextEntry{3748, "&Copy selected entries"}},
-    Assignment{kBandEdit, 0, Property::ToolTip,
-               TextEntry{3749, "Copies the selection and puts it on the clipboard"}},
-    Assignment{kBandEdit, 2, Property::Caption, TextEntry{3719, "&Delete all entries"}},
-    Assignment{kBandEdit, 2, Property::ToolTip, TextEntry{3720, "Deletes all entries in the list"}},
-    Assignment{kBandEdit, 3, Property::Caption, TextEntry{3722, "Select &all entries"}},
-    Assignment{kBandEdit, 3, Property::ToolTip, TextEntry{3723, "Selects the entire list"}},
-    Assignment{kBandEdit, kBandItself, Property::Caption, TextEntry{3740, "Edit"}},
-    Assignment{kBandTools, 0, Property::Caption, TextEntry{3706, "Play Message"}},
-    Assignment{kBandTools, 1, Property::Caption, TextEntry{3732, "Show Details"}},
-    Assignment{kBandTools, 3, Property::Caption, TextEntry{3733, "&Options"}},
-    Assignment{kBandTools, 3, Property::ToolTip, TextEntry{3734, "Set application options"}},
-    Assignment{kBandTools, kBandItself, Property::Caption, TextEntry{3741, "Tools"}},
-    Assignment{kBandPopup, 0, Property::Caption, TextEntry{3751, "Play"}},
-    Assignment{kBandPopup, 2, Property::Caption, TextEntry{3732, "Show Details"}},
+    caption(kBandStatus, 0, TextEntry{3743, "Tool7"}),
+    caption(kBandStatus, 2, TextEntry{3706, "Play Message"}),
+    toolTip(kBandStatus, 2, TextEntry{3736, "Plays the selected message"}),
+    caption(kBandStatus, TextEntry{3704, "Status"}),
+    caption(kBandMenu, 0, TextEntry{3744, "&File"}),
+    caption(kBandMenu, 1, TextEntry{3711, "&Edit"}),
+    caption(kBandMenu, 2, TextEntry{3712, "&Tools"}),
+    caption(kBandMenu, 3, TextEntry{3713, "&Help"}),
+    caption(kBandMenu, TextEntry{3710, "Menu"}),
+    caption(kBandFile, 0, TextEntry{3745, "&Hide window"}),
+    caption(kBandFile, 2, TextEntry{3715, "&Exit Quillamar Client"}),
+    caption(kBandFile, TextEntry{3738, "File"}),
+    caption(kBandHelp, 0, TextEntry{3746, "&Contents..."}),
+    toolTip(kBandHelp, 0, TextEntry{3747, "Display the help contents dialog"}),
+    caption(kBandHelp, 2, TextEntry{3717, "About Quillamar Client"}),
+    caption(kBandHelp, TextEntry{3739, "Help"}),
+    caption(kBandEdit, 0, TextEntry{3748, "&Copy selected entries"}),
+    toolTip(kBandEdit, 0, TextEntry{3749, "Copies the selection and puts it on the clipboard"}),
+    caption(kBandEdit, 2, TextEntry{3719, "&Delete all entries"}),
+    toolTip(kBandEdit, 2, TextEntry{3720, "Deletes all entries in the list"}),
+    caption(kBandEdit, 3, TextEntry{3722, "Select &all entries"}),
+    toolTip(kBandEdit, 3, TextEntry{3723, "Selects the entire list"}),
+    caption(kBandEdit, TextEntry{3740, "Edit"}),
+    caption(kBandTools, 0, TextEntry{3706, "Play Message"}),
+    caption(kBandTools, 1, TextEntry{3732, "Show Details"}),
+    caption(kBandTools, 3, TextEntry{3733, "&Options"}),
+    toolTip(kBandTools, 3, TextEntry{3734, "Set application options"}),
+    caption(kBandTools, TextEntry{3741, "Tools"}),
+    caption(kBandPopup, 0, TextEntry{3751, "Play"}),
+    caption(kBandPopup, 2, TextEntry{3732, "Show Details"}),
 };
 
 void assign(const forms::CommandBar& ab, const Assignment& entry) {

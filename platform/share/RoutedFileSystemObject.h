@@ -10,7 +10,7 @@
 
 namespace share {
 
-class RoutedFileSystemObject final : public FileSystemObject {
+class RoutedFileSystemObject : public FileSystemObject {
 public:
     RoutedFileSystemObject(ShareResolver resolver, FileSystemObject& folders, FileSystemObject& servers)
         : m_resolver(std::move(resolver)), m_folders(folders), m_servers(servers) {}

@@ -4,7 +4,13 @@
 // A drawing surface of a size that the test sets, which writes down what is asked of it and fails on demand.
 
 #include "platform/basic/RuntimeError.h"
+#include "platform/forms/Events.h"
 #include "platform/forms/Surface.h"
+
+#include <QTest>
+#include <QWidget>
+
+#include <gtest/gtest.h>
 
 #include <string>
 #include <vector>
@@ -50,5 +56,16 @@ private:
             throw basic::RuntimeError(basic::kOutOfMemory);
     }
 };
+
+// Whether a widget on the screen paints its surface once more, which `action` gives it reason to.
+template <typename Action>
+bool paintsAgain(QWidget& widget, const RecordedSurface& surface, Action&& action) {
+    widget.show();
+    EXPECT_TRUE(QTest::qWaitFor([&surface] { return surface.paints > 0; }));
+    forms::doEvents();
+    const int before = surface.paints;
+    action();
+    return QTest::qWaitFor([&surface, before] { return surface.paints > before; });
+}
 
 } // namespace audio

@@ -1,6 +1,5 @@
 // SPDX-FileCopyrightText: 2026 The qmClient authors
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "platform/forms/Events.h"
 #include "resources/StringTable.h"
 #include "tests/audio/PlayerTest.h"
 
@@ -153,12 +152,7 @@ TEST_F(PlayerTest, EngineThatSomebodyKeepsIsStoppedWhenThePlayerEnds) {
 
 TEST_F(PlayerTest, RefreshPaintsItAgain) {
     useRecordedSurface();
-    player->show();
-    ASSERT_TRUE(QTest::qWaitFor([this] { return surface->paints > 0; }));
-    forms::doEvents();
-    surface->paints = 0;
-    player->Refresh();
-    EXPECT_TRUE(QTest::qWaitFor([this] { return surface->paints > 0; }));
+    EXPECT_TRUE(paintsAgain(*player, *surface, [this] { player->Refresh(); }));
 }
 
 TEST_F(PlayerTest, HasAHandleAndTheHeightOfTwoHundredAndTwentyFiveTwips) {

@@ -2,12 +2,10 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "audio/ctlButton.h"
 
-#include "platform/forms/Events.h"
 #include "tests/audio/RecordedSurface.h"
 #include "tests/errors/RecordingErrorHandler.h"
 
 #include <QLabel>
-#include <QTest>
 
 #include <gmock/gmock.h>
 
@@ -65,12 +63,8 @@ TEST_F(ButtonTest, ShowsWhatItDraws) {
 }
 
 TEST_F(ButtonTest, DrawingPaintsItAgain) {
-    make(600, 300).show();
-    ASSERT_TRUE(QTest::qWaitFor([this] { return surface->paints > 0; }));
-    forms::doEvents();
-    surface->paints = 0;
-    button->Draw();
-    EXPECT_TRUE(QTest::qWaitFor([this] { return surface->paints > 0; }));
+    make(600, 300);
+    EXPECT_TRUE(paintsAgain(*button, *surface, [this] { button->Draw(); }));
 }
 
 TEST_F(ButtonTest, PictureStandsInItsMiddle) {

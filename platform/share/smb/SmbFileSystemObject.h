@@ -12,7 +12,7 @@
 
 namespace share::smb {
 
-class SmbFileSystemObject final : public FileSystemObject {
+class SmbFileSystemObject : public FileSystemObject {
 public:
     SmbFileSystemObject(SmbServers& servers, Waiter& waiter) : m_servers(servers), m_waiter(waiter) {}
 

@@ -2,22 +2,14 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "platform/basic/Collection.h"
 
+#include "tests/platform/basic/ErrorOf.h"
+
 #include <gtest/gtest.h>
 
 namespace basic {
 namespace {
 
 using Texts = Collection<std::string>;
-
-template <typename Call>
-std::int32_t errorOf(Call&& call) {
-    try {
-        call();
-    } catch (const RuntimeError& error) {
-        return error.number();
-    }
-    return 0;
-}
 
 Texts sample() {
     Texts texts;

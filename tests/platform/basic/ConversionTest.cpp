@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "platform/basic/Conversion.h"
 
-#include "platform/basic/RuntimeError.h"
+#include "tests/platform/basic/ErrorOf.h"
 
 #include <gtest/gtest.h>
 
@@ -10,16 +10,6 @@
 
 namespace basic {
 namespace {
-
-template <typename Call>
-std::int32_t errorOf(Call&& call) {
-    try {
-        call();
-    } catch (const RuntimeError& error) {
-        return error.number();
-    }
-    return 0;
-}
 
 TEST(Val, ReadsTheLeadingNumber) {
     EXPECT_EQ(Val("12"), 12);

@@ -92,7 +92,7 @@ TEST(PlayingAtAlsa, LetsTheCardGoWithTheStopThatFollowsTheEnd) {
     ASSERT_TRUE(played.comesToItsEnd());
     played.desk->want(PlayState::Stopped);
     played.player.step(played.newest());
-    EXPECT_TRUE(waitUntil([&] { return world.server.streamCount() == 0; }));
+    EXPECT_TRUE(world.isDeviceFree());
 }
 
 TEST(PlayingAtAlsa, TellsOnceThatThereIsNoCard) {

@@ -3,23 +3,14 @@
 #pragma once
 // What an action throws.
 
-#include "platform/basic/RuntimeError.h"
+#include "tests/platform/basic/ErrorOf.h"
 
-#include <cstdint>
 #include <functional>
 #include <string>
 
 namespace mediagraph::testing {
 
-// The number of the error, 0 without one.
-inline std::int32_t errorOf(const std::function<void()>& action) {
-    try {
-        action();
-    } catch (const basic::RuntimeError& error) {
-        return error.number();
-    }
-    return 0;
-}
+using basic::errorOf;
 
 inline std::string errorTextOf(const std::function<void()>& action) {
     try {

@@ -80,9 +80,7 @@ TEST(PlayingAtPipeWire, SaysThatTheSoundDidNotStartAndPlaysWhenItCan) {
 TEST(PlayingAtPipeWire, EndsAsAQuietStopWhenItsDeviceIsUnplugged) {
     PipeWireWorld world;
     for (const char* sink : {"first", "second"}) {
-        const auto graph = world.connected(world.makeMessage(5));
-        graph->Run();
-        ASSERT_TRUE(comesTo(*graph, 0.2));
+        const auto graph = world.playing(world.makeMessage(5), 0.2);
         PipeWireServer::unplug(sink);
         EXPECT_EQ(endOf(*graph), EventCode::UserAbort);
         EXPECT_EQ(errorOf([&] { graph->CurrentPosition(); }), 0);
@@ -91,9 +89,7 @@ TEST(PlayingAtPipeWire, EndsAsAQuietStopWhenItsDeviceIsUnplugged) {
 
 TEST(PlayingAtPipeWire, IsToldOnceWhenItIsKilled) {
     PipeWireWorld world;
-    const auto graph = world.connected(world.makeMessage(5));
-    graph->Run();
-    ASSERT_TRUE(comesTo(*graph, 0.2));
+    const auto graph = world.playing(world.makeMessage(5), 0.2);
     world.pipeWire.kill();
     EXPECT_EQ(toldFailure(*graph), basic::kMediaNoHardware);
     EXPECT_GE(graph->CurrentPosition(), 0.2);

@@ -31,9 +31,7 @@ TEST(SoundServerFailure, BeforePlayingIsToldOnceAndTheNextPlayWorks) {
 
 TEST(SoundServerFailure, WhilePlayingIsToldOnceAndTheNextPlayWorks) {
     SoundWorld world;
-    const auto graph = world.connected(world.makeMessage(5));
-    graph->Run();
-    ASSERT_TRUE(comesTo(*graph, 0.2));
+    const auto graph = world.playing(world.makeMessage(5), 0.2);
     world.server.kill();
     EXPECT_EQ(toldFailure(*graph), basic::kMediaNoHardware);
     EXPECT_GE(graph->CurrentPosition(), 0.2);
@@ -43,9 +41,7 @@ TEST(SoundServerFailure, WhilePlayingIsToldOnceAndTheNextPlayWorks) {
 
 TEST(SoundServerFailure, WhilePausedIsToldWhenThePlayGoesOn) {
     SoundWorld world;
-    const auto graph = world.connected(world.makeMessage(5));
-    graph->Run();
-    ASSERT_TRUE(comesTo(*graph, 0.1));
+    const auto graph = world.playing(world.makeMessage(5), 0.1);
     graph->Pause();
     world.server.kill();
     EXPECT_GE(graph->CurrentPosition(), 0.1);
@@ -81,9 +77,7 @@ TEST(SoundServerFailure, ByHangingEndsThePlayInAnError) {
 
 TEST(SoundServerFailure, ByHangingWhilePlayingEndsThePlayInAnError) {
     SoundWorld world;
-    const auto graph = world.connected(world.makeMessage(30));
-    graph->Run();
-    ASSERT_TRUE(comesTo(*graph, 0.2));
+    const auto graph = world.playing(world.makeMessage(30), 0.2);
     const double position = graph->CurrentPosition();
     world.server.freeze();
     EXPECT_EQ(toldFailure(*graph), basic::kMediaTimeout);
@@ -94,21 +88,17 @@ TEST(SoundServerFailure, ByHangingWhilePlayingEndsThePlayInAnError) {
 
 TEST(UnpluggingTheDevice, EndsPlayingAsAQuietStop) {
     SoundWorld world;
-    const auto graph = world.connected(world.makeMessage(5), "Second");
-    graph->Run();
-    ASSERT_TRUE(comesTo(*graph, 0.2));
+    const auto graph = world.playing(world.makeMessage(5), 0.2, "Second");
     world.server.unplug("second");
     EXPECT_EQ(endOf(*graph), EventCode::UserAbort);
     EXPECT_EQ(errorOf([&] { graph->CurrentPosition(); }), 0);
-    EXPECT_TRUE(waitUntil([&] { return world.server.streamCount() == 0; }));
+    EXPECT_TRUE(world.isDeviceFree());
     expectPlays(world, "First");
 }
 
 TEST(UnpluggingTheDevice, DoesNotMoveWhatPlaysAtTheDefaultToAnotherDevice) {
     SoundWorld world;
-    const auto graph = world.connected(world.makeMessage(5));
-    graph->Run();
-    ASSERT_TRUE(comesTo(*graph, 0.2));
+    const auto graph = world.playing(world.makeMessage(5), 0.2);
     world.server.unplug("first");
     EXPECT_EQ(endOf(*graph), EventCode::UserAbort);
     expectPlays(world);
@@ -117,9 +107,7 @@ TEST(UnpluggingTheDevice, DoesNotMoveWhatPlaysAtTheDefaultToAnotherDevice) {
 TEST(UnpluggingTheDevice, EndsPlayingAlsoWhenItWasTheLastOne) {
     SoundWorld world;
     world.server.unplug("second");
-    const auto graph = world.connected(world.makeMessage(5));
-    graph->Run();
-    ASSERT_TRUE(comesTo(*graph, 0.2));
+    const auto graph = world.playing(world.makeMessage(5), 0.2);
     world.server.unplug("first");
     EXPECT_EQ(endOf(*graph), EventCode::UserAbort);
     // The silent stand-in that the server loads now is no device.
@@ -131,9 +119,7 @@ TEST(UnpluggingTheDevice, EndsPlayingAlsoWhereTheServerHasNoStandIn) {
     SoundWorld world;
     world.server.control({"unload-module", "module-always-sink"});
     world.server.unplug("second");
-    const auto graph = world.connected(world.makeMessage(5));
-    graph->Run();
-    ASSERT_TRUE(comesTo(*graph, 0.2));
+    const auto graph = world.playing(world.makeMessage(5), 0.2);
     world.server.unplug("first");
     EXPECT_EQ(endOf(*graph), EventCode::UserAbort);
     EXPECT_EQ(errorOf([&] { graph->CurrentPosition(); }), 0);
@@ -141,11 +127,9 @@ TEST(UnpluggingTheDevice, EndsPlayingAlsoWhereTheServerHasNoStandIn) {
 
 TEST(UnpluggingTheDevice, WhilePausedLetsThePlayGoOnAtTheNewDefault) {
     SoundWorld world;
-    const auto graph = world.connected(world.makeMessage(0.8));
-    graph->Run();
-    ASSERT_TRUE(comesTo(*graph, 0.2));
+    const auto graph = world.playing(world.makeMessage(0.8), 0.2);
     graph->Pause();
-    ASSERT_TRUE(waitUntil([&] { return world.server.streamCount() == 0; }));
+    ASSERT_TRUE(world.isDeviceFree());
     world.server.unplug("first");
     graph->Run();
     EXPECT_EQ(endOf(*graph), EventCode::Complete);
@@ -153,9 +137,7 @@ TEST(UnpluggingTheDevice, WhilePausedLetsThePlayGoOnAtTheNewDefault) {
 
 TEST(ChangingTheDefault, TakesWhatPlaysAlong) {
     SoundWorld world;
-    const auto graph = world.connected(world.makeMessage(0.8));
-    graph->Run();
-    ASSERT_TRUE(comesTo(*graph, 0.2));
+    const auto graph = world.playing(world.makeMessage(0.8), 0.2);
     world.server.control({"set-default-sink", "second"});
     EXPECT_EQ(endOf(*graph), EventCode::Complete);
 }

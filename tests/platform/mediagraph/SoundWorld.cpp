@@ -9,6 +9,7 @@
 
 #include <gtest/gtest.h>
 
+#include <stdexcept>
 #include <utility>
 
 namespace mediagraph::testing {
@@ -67,6 +68,18 @@ Graph SoundWorld::connected(const std::string& file, const std::string& device) 
     auto graph = m_sound->graphs().newFilgraphManager();
     connect(*graph, file, device);
     return graph;
+}
+
+Graph SoundWorld::playing(const std::string& file, double seconds, const std::string& device) {
+    auto graph = connected(file, device);
+    graph->Run();
+    if (!comesTo(*graph, seconds))
+        throw std::runtime_error(file + " does not come to " + std::to_string(seconds) + " seconds");
+    return graph;
+}
+
+bool SoundWorld::isDeviceFree() const {
+    return waitUntil([this] { return server.streamCount() == 0; });
 }
 
 std::optional<EventCode> endOf(FilgraphManager& graph, std::chrono::seconds limit) {

@@ -50,7 +50,12 @@ public:
     // Puts the message and the device (the desktop's default unless named) into a new graph and connects
     // them.
     Graph connected(const std::string& file, const std::string& device = "Default Audio Device");
-    // The same, in a graph that is there.
+    // The same, run and come to `seconds`; throws when it does not.
+    Graph playing(const std::string& file, double seconds,
+                  const std::string& device = "Default Audio Device");
+    // Whether nothing plays at the server any more, or soon.
+    bool isDeviceFree() const;
+    // As connected(), in a graph that is there.
     void connect(FilgraphManager& graph, const std::string& file, const std::string& device);
     void endSound() { m_sound.reset(); }
 
