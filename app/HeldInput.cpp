@@ -58,7 +58,10 @@ bool isBlocked(QObject& receiver) {
 } // namespace
 
 void HeldInput::hold() {
-    m_dialog = QGuiApplication::modalWindow();
+    m_before.clear();
+    for (QWindow* window : QGuiApplication::topLevelWindows())
+        if (window->isVisible())
+            m_before.emplace_back(window);
     QCoreApplication::instance()->installEventFilter(this);
 }
 
@@ -72,10 +75,12 @@ void HeldInput::handOut() {
             QCoreApplication::postEvent(held.receiver, held.event.release());
 }
 
-// The wait does not end before it is answered.
+// The wait does not end before it is answered. A dialog from before, which the end of another one leaves in
+// front, has to wait as its program does.
 bool HeldInput::isOfNewDialog(QObject& receiver) const {
     const QWindow* modal = QGuiApplication::modalWindow();
-    return modal != nullptr && modal != m_dialog && !isBlocked(receiver);
+    return modal != nullptr && !isBlocked(receiver) &&
+           std::ranges::find(m_before, modal, &QPointer<QWindow>::data) == m_before.end();
 }
 
 bool HeldInput::eventFilter(QObject* receiver, QEvent* event) {

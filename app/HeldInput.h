@@ -36,7 +36,7 @@ private:
     bool eventFilter(QObject* receiver, QEvent* event) override;
 
     std::vector<Held> m_held;
-    QPointer<QWindow> m_dialog; // that was up before
+    std::vector<QPointer<QWindow>> m_before; // the windows that were there then
 };
 
 } // namespace app

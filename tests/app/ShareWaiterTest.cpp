@@ -180,12 +180,15 @@ TEST_F(ShareWaiterTest, DropsSuchWorkAtTheEndOfTheProgram) {
 class InputTest : public ShareWaiterTest {
 protected:
     InputTest() {
-        // A shortcut's click comes some time after its press.
-        QObject::connect(&m_button, &QPushButton::pressed, &m_button,
-                         [this] { m_wasWaiting = m_waiter.isWaiting(); });
-        QObject::connect(&m_button, &QPushButton::clicked, &m_button, [this] { ++m_clicks; });
+        watch(m_button);
         m_button.show();
         EXPECT_TRUE(QTest::qWaitForWindowExposed(&m_button));
+    }
+    // A shortcut's click comes some time after its press.
+    void watch(QPushButton& button) {
+        QObject::connect(&button, &QPushButton::pressed, &button,
+                         [this] { m_wasWaiting = m_waiter.isWaiting(); });
+        QObject::connect(&button, &QPushButton::clicked, &button, [this] { ++m_clicks; });
     }
     // Begins to count inside of the wait, later than the wait itself; and an event later than a timer of that
     // time the waiter has done what it does then, though both timers be due at once.
@@ -254,28 +257,46 @@ TEST_F(InputTest, ReachesAMenuThatIsOpen) {
 TEST_F(InputTest, ReachesADialogThatComesUpMeanwhile) {
     QDialog dialog;
     QPushButton ok(QStringLiteral("OK"), &dialog);
-    bool wasWaiting = false;
-    QObject::connect(&ok, &QPushButton::pressed, &ok, [&] { wasWaiting = m_waiter.isWaiting(); });
+    watch(ok);
     whenTheWaitIsLong([&] {
         dialog.open();
         EXPECT_TRUE(QTest::qWaitForWindowExposed(&dialog));
         QTest::mouseClick(dialog.windowHandle(), Qt::LeftButton, {}, ok.geometry().center());
     });
     EXPECT_EQ(wait(), Waited::Ready);
-    EXPECT_TRUE(wasWaiting);
+    EXPECT_EQ(m_wasWaiting, true);
 }
 
 TEST_F(InputTest, OfADialogThatWaitsIsHeld) {
     QDialog dialog;
     QPushButton ok(QStringLiteral("OK"), &dialog);
-    QObject::connect(&ok, &QPushButton::pressed, &ok, [this] { m_wasWaiting = m_waiter.isWaiting(); });
+    watch(ok);
     dialog.open();
     EXPECT_TRUE(QTest::qWaitForWindowExposed(&dialog));
     whenTheWaitIsLong(
         [&] { QTest::mouseClick(dialog.windowHandle(), Qt::LeftButton, {}, ok.geometry().center()); });
     EXPECT_EQ(wait(), Waited::Ready);
     EXPECT_EQ(m_wasWaiting, std::nullopt);
-    ASSERT_TRUE(isPressed());
+    ASSERT_TRUE(isClicked());
+    EXPECT_EQ(m_wasWaiting, false);
+}
+
+TEST_F(InputTest, OfADialogBehindOneThatIsClosedIsHeld) {
+    QDialog behind;
+    QPushButton ok(QStringLiteral("OK"), &behind);
+    watch(ok);
+    behind.open();
+    EXPECT_TRUE(QTest::qWaitForWindowExposed(&behind));
+    QDialog front(&behind);
+    front.open();
+    EXPECT_TRUE(QTest::qWaitForWindowExposed(&front));
+    whenTheWaitIsLong([&] {
+        front.close();
+        QTest::mouseClick(behind.windowHandle(), Qt::LeftButton, {}, ok.geometry().center());
+    });
+    EXPECT_EQ(wait(), Waited::Ready);
+    EXPECT_EQ(m_wasWaiting, std::nullopt);
+    ASSERT_TRUE(isClicked());
     EXPECT_EQ(m_wasWaiting, false);
 }
 
