@@ -14,9 +14,9 @@ namespace {
 
 // How much sound goes to the sound server at once. By default a quarter of it, which costs a third more.
 constexpr gint64 kPieceMicroseconds = 40'000;
-// How much sound the sound server or the card holds. By default less than half of it, and a workstation that
-// stands still for a tenth of a second is heard as a gap. PipeWire's sink has a way of its own.
-constexpr gint64 kBufferMicroseconds = 500'000;
+// How much sound the sound server or the card holds. By default a tenth of it, and the sound has a hole when
+// the workstation, or one of the two programs, stands still for longer. PipeWire's sink has a way of its own.
+constexpr gint64 kBufferMicroseconds = 2'000'000;
 
 GstElement* newElement(const std::string& kind) {
     GstElement* element = gst_element_factory_make(kind.c_str(), nullptr);

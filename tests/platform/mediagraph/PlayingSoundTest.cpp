@@ -61,6 +61,19 @@ TEST(PlayingSound, HearsAShortMessageToItsEndThoughTheGraphIsStoppedAtOnce) {
     expectHeardWhole(recording, world.decoded(file));
 }
 
+TEST(PlayingSound, HasNoHoleWhenTheServerStandsStillForASecond) {
+    SoundWorld world;
+    const auto file = world.makeMessage(2.5);
+    const auto graph = world.connected(file);
+    Recording recording("first", world.pathOf("heard"));
+    graph->Run();
+    ASSERT_TRUE(comesTo(*graph, 0.3));
+    world.server.standStill(std::chrono::seconds{1});
+    EXPECT_EQ(endOf(*graph), EventCode::Complete);
+    recording.finish();
+    expectHeardWhole(recording, world.decoded(file));
+}
+
 TEST(PlayingSound, IsSilentWhilePausedAndGoesOnAtTheSameSample) {
     SoundWorld world;
     const auto file = world.makeMessage(1.4);

@@ -46,6 +46,21 @@ double likenessOf(const std::vector<std::int16_t>& heard, std::size_t first,
     return heardPower > 0 && soundPower > 0 ? product / std::sqrt(heardPower * soundPower) : 0;
 }
 
+// Where a function of whole numbers is greatest.
+template <typename Function>
+int bestOf(int begin, int end, int step, const Function& function) {
+    int best = begin;
+    double greatest = function(begin);
+    for (int i = begin + step; i <= end; i += step) {
+        const double value = function(i);
+        if (value > greatest) {
+            greatest = value;
+            best = i;
+        }
+    }
+    return best;
+}
+
 } // namespace
 
 Recording::Recording(const std::string& sink, const std::string& file)
@@ -93,13 +108,14 @@ std::vector<Stretch> Recording::stretches(double pause) const {
 
 double Recording::likeness(double begin, const Samples& message, double from, double length) const {
     constexpr int kShift = kRate / 100;
+    constexpr int kStep = 8;
     const auto sound = stretchOf(message, from, static_cast<std::size_t>(length * kRate));
+    const auto at = [&](int first) {
+        return likenessOf(m_heard, static_cast<std::size_t>(std::max(0, first)), sound);
+    };
     const auto first = static_cast<int>(begin * kRate);
-    double best = 0;
-    for (int shift = -kShift; shift <= kShift; shift += 4)
-        best =
-            std::max(best, likenessOf(m_heard, static_cast<std::size_t>(std::max(0, first + shift)), sound));
-    return best;
+    const int about = bestOf(first - kShift, first + kShift, kStep, at);
+    return at(bestOf(about - kStep, about + kStep, 1, at));
 }
 
 double Recording::momentAt(double at, const Samples& message, double expected) const {

@@ -12,6 +12,7 @@
 #include <cstdlib>
 #include <fstream>
 #include <iterator>
+#include <thread>
 
 namespace mediagraph::testing {
 namespace {
@@ -55,6 +56,12 @@ void SoundServer::start() {
 
 void SoundServer::kill() {
     m_process->end(SIGKILL);
+}
+
+void SoundServer::standStill(std::chrono::milliseconds time) {
+    freeze();
+    std::this_thread::sleep_for(time);
+    thaw();
 }
 
 std::string SoundServer::control(const std::vector<std::string>& words) const {

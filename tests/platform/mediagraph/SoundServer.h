@@ -8,6 +8,7 @@
 #include "tests/platform/mediagraph/ChildProcess.h"
 #include "tests/platform/share/TemporaryFolder.h"
 
+#include <chrono>
 #include <memory>
 #include <string>
 #include <vector>
@@ -25,6 +26,8 @@ public:
     void kill(); // at once, as in a crash
     void freeze() { m_process->send(19); }
     void thaw() { m_process->send(18); }
+    // As one that gets no processor for so long.
+    void standStill(std::chrono::milliseconds time);
 
     // pactl with these words; what it printed.
     std::string control(const std::vector<std::string>& words) const;
