@@ -9,7 +9,7 @@ import wave
 
 sys.dont_write_bytecode = True
 from delete_question import DeleteQuestion  # noqa: E402
-from desktop.sound import RATE  # noqa: E402
+from desktop.hearing import RATE  # noqa: E402
 from play_scene import PlayScene  # noqa: E402
 from samba import Samba  # noqa: E402
 from site_folder import mailbox_folder  # noqa: E402

@@ -75,7 +75,7 @@ class ShareDrillTest(DrillScene):
         folder = mailbox_folder(self.share, FIRST)
         away = folder.with_name('away')
         os.rename(folder, away)
-        self.wait_asked()
+        self.wait_asked(client)
         os.rename(away, folder)
         self.counts_on(client, calls)
 

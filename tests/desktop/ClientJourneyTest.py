@@ -16,7 +16,8 @@ import unittest
 
 sys.dont_write_bytecode = True
 from client import ABOUT, CLOSE, SHOW, TITLE, Client  # noqa: E402
-from desktop.sound import RATE, SoundServer, likeness, message  # noqa: E402
+from desktop.hearing import RATE, likeness, message  # noqa: E402
+from desktop.sound import SoundServer  # noqa: E402
 from details import Details, English, German  # noqa: E402
 from options import OK, Options  # noqa: E402
 from samba import Samba  # noqa: E402

@@ -14,7 +14,7 @@ from desktop import wait_until  # noqa: E402
 from options import OK, Options  # noqa: E402
 from samba import PASSWORD  # noqa: E402
 from scene import FIRST  # noqa: E402
-from smb_scene import LOG_ON, SmbScene, helpers, status_of  # noqa: E402
+from smb_scene import LOG_ON, SmbScene, helpers_of, status_of  # noqa: E402
 
 KEYRING = '^Unlock Login Keyring$'
 NOT_CONNECTED = 'A connection to the server could not be established.'
@@ -129,7 +129,7 @@ class LogOnTest(LogOnScene):
         for folder in ('home', 'config', 'data', 'state', 'cache', 'run', 'tmp', 'logs'):
             for path in filter(pathlib.Path.is_file, (self.desktop.folder / folder).rglob('*')):
                 self.assertNotIn(secret, path.read_bytes(), path)
-        for pid in (client.process.pid, *helpers()):
+        for pid in (client.process.pid, *helpers_of(client)):
             for what in ('cmdline', 'environ'):
                 self.assertNotIn(secret, pathlib.Path(f'/proc/{pid}/{what}').read_bytes())
 

@@ -5,7 +5,7 @@ from desktop import wait_until
 from relay import Relay
 from samba import PASSWORD
 from scene import FIRST
-from smb_scene import SmbScene, helpers, status_of
+from smb_scene import SmbScene, helpers_of, status_of
 
 LOG = 'qmClient.log'
 
@@ -22,9 +22,10 @@ class DrillScene(SmbScene):
         client.wait_rows(calls + 3, seconds=90)
         self.reports_nothing()
 
-    def wait_asked(self, requests=8):
+    @staticmethod
+    def wait_asked(client, requests=8):
         """Until the server was asked so much as a few polls do."""
-        helper = helpers()[0]
+        helper = helpers_of(client)[0]
 
         def waits():
             return int(status_of(helper, 'voluntary_ctxt_switches'))

@@ -5,6 +5,7 @@
 Pictures of the window while a message plays are left in pictures/player/ beside the programs' folder.
 """
 from client import Client
+from desktop.hearing import RATE, likeness, message, save, unlike
 from desktop.sound import SoundServer
 from scene import SceneTest, run
 from site_folder import BIN, mailbox_folder, write_settings
@@ -47,6 +48,23 @@ class PlayScene(SceneTest):
             if seconds[0] <= int(call['MessageLength']) <= seconds[1]:
                 return row, mailbox_folder(self.share, self.number) / f'{call["CallID"]}.wav'
         self.fail('no such message in the demo share')
+
+    def play_whole(self, row, file):
+        recording = self.sound.record()
+        self.client.double_click(row)
+        self.client.wait_position(10)
+        self.client.wait_silent()
+        self.check_heard(recording.finish(), file)
+
+    def check_heard(self, sound, file):
+        """The whole message and nothing else; what was heard instead is left beside the pictures."""
+        wanted = message(file)
+        alike = likeness(sound, wanted)
+        if alike <= 0.99 or abs(len(sound) - len(wanted)) > 0.03 * RATE:
+            PICTURES.mkdir(parents=True, exist_ok=True)
+            save(sound, PICTURES / f'{self.id()}-heard.wav')
+            save(wanted, PICTURES / f'{self.id()}-wanted.wav')
+            self.fail(f'likeness {alike:.4f}, {unlike(sound, wanted)}')
 
     def picture(self, name):
         PICTURES.mkdir(parents=True, exist_ok=True)

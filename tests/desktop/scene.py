@@ -22,7 +22,6 @@ class SceneTest(unittest.TestCase):
     size = '1024x768'
     tray = 'trayer'
     accessibility = True
-    tray = 'trayer'
 
     def setUp(self):
         stack = contextlib.ExitStack()

@@ -87,20 +87,15 @@ class SmbScene(SceneTest):
         return self.samba.log_ons('NT_STATUS_WRONG_PASSWORD')
 
 
-def helpers():
-    """The processes called qmshare that belong to this test's clients."""
-    found = []
-    for name in filter(str.isdigit, os.listdir('/proc')):
-        with contextlib.suppress(OSError):
-            with open(f'/proc/{name}/comm', encoding='ascii') as comm:
-                if comm.read() == 'qmshare\n':
-                    found.append(int(name))
-    return found
-
-
 def helpers_of(client):
-    """Those of one client, once there is one."""
-    return wait_until(lambda: [pid for pid in helpers() if parent(pid) == client.process.pid], 'a qmshare process')
+    """The qmshare processes of one client, once there is one. Tests that run beside this one have theirs."""
+    return wait_until(lambda: list(_helpers_of(client.process.pid)), 'a qmshare process')
+
+
+def _helpers_of(client):
+    for pid in map(int, filter(str.isdigit, os.listdir('/proc'))):
+        if status_of(pid, 'Name') == 'qmshare' and parent(pid) == client:
+            yield pid
 
 
 def status_of(pid, name):

@@ -2,14 +2,11 @@
 # SPDX-License-Identifier: GPL-3.0-or-later
 """A private sound server with one silent device, whose sound is recorded."""
 import array
-import math
 import os
-import wave
 
+from .hearing import RATE, heard
 from .processes import DesktopError, wait_until
 
-RATE = 8000  # of recordings; what telephony messages have
-_LOUD = 400
 _SCRIPT = '''load-module module-null-sink sink_name=desk norewinds=1 rate=48000 channels=2 \
 sink_properties=device.description=Desk
 set-default-sink desk
@@ -73,39 +70,3 @@ class Recording:
         self._program.end()
         samples = array.array('h', self._file.read_bytes()[:self._size() // 2 * 2])
         return heard(samples)
-
-
-def heard(samples):
-    loud = [i for i, value in enumerate(samples) if abs(value) > _LOUD]
-    return samples[loud[0]:loud[-1] + 1] if loud else samples[:0]
-
-
-def message(path):
-    """The samples of a message of 8 or 16 bits at the recordings' rate, from the first one heard to the last."""
-    with wave.open(str(path)) as file:
-        if file.getframerate() != RATE or file.getnchannels() != 1:
-            raise DesktopError(f'{path}: not at {RATE} Hz')
-        data = file.readframes(file.getnframes())
-        if file.getsampwidth() == 1:
-            return heard(array.array('h', ((value - 128) * 256 for value in data)))
-        return heard(array.array('h', data))
-
-
-def likeness(one, other, slack=80):
-    """The correlation of two sounds, 1 for equal ones, where they fit best within `slack` samples."""
-    return max(_correlation(one[max(shift, 0):], other[max(-shift, 0):], 1)
-               for shift in _best_shifts(one, other, slack))
-
-
-def _best_shifts(one, other, slack):
-    """The places that fit best by every seventh sample, and their neighbours."""
-    rough = max(range(-slack, slack + 1),
-                key=lambda shift: _correlation(one[max(shift, 0):], other[max(-shift, 0):], 7))
-    return range(rough - 1, rough + 2)
-
-
-def _correlation(one, other, step):
-    pairs = list(zip(one[::step], other[::step]))
-    product = sum(a * b for a, b in pairs)
-    power = sum(a * a for a, _ in pairs) * sum(b * b for _, b in pairs)
-    return product / math.sqrt(power) if power else 0
