@@ -1,15 +1,14 @@
 // SPDX-FileCopyrightText: 2026 The qmClient authors
 // SPDX-License-Identifier: GPL-3.0-or-later
 //
-// The player in the main window: which file a command plays, what the buttons show, and how it ends.
+// The player in the main window: which file a command plays.
 #include "app/ChosenMailbox.h"
-#include "tests/app/MainWorld.h"
-#include "tests/app/PlayerButtons.h"
+#include "tests/app/MainPlayerTest.h"
 
-#include <QTest>
 #include <QToolBar>
 
-#include <gmock/gmock.h>
+#include <filesystem>
+#include <optional>
 
 namespace app {
 namespace {
@@ -17,49 +16,6 @@ namespace {
 using testing::Contains;
 using testing::ElementsAre;
 using testing::IsEmpty;
-using testing::Not;
-
-class MainPlayerTest : public MainWorld {
-protected:
-    // A window over mailbox 12 with a call C1 that has a message, and C2 that has none.
-    void loadOne() {
-        configure({12});
-        mailbox(12).append({"C1", "Anna", 7});
-        mailbox(12).append({"C2", "Ben", 0});
-        makeSound(12, "C1.wav");
-        load();
-        sound.takeLog();
-    }
-    void loadTwo() {
-        configure({15, 12});
-        for (const int id : {15, 12}) {
-            mailbox(id).append({"C1", "Anna", 7});
-            makeSound(id, "C1.wav");
-        }
-        load();
-        sound.takeLog();
-    }
-    void select(const char* key) { list().SetSelectedItem(list().ListItems().Item(key)); }
-    void play() {
-        select("KC1");
-        window->ab_ToolClick("miSPlay");
-    }
-    std::string buttons() { return playerButtons(window->ab()); }
-    // The only place where the message is played from, as the engine got it.
-    std::string played() {
-        std::string file;
-        for (const std::string& call : sound.takeLog())
-            if (call.starts_with("Filename "))
-                file = call.substr(9);
-        return file;
-    }
-    std::vector<std::string> shown() const {
-        std::vector<std::string> texts;
-        for (const auto& box : messageBoxes.boxes)
-            texts.push_back(box.text);
-        return texts;
-    }
-};
 
 TEST_F(MainPlayerTest, PlayerSitsInTheStatusBand) {
     loadOne();
@@ -160,19 +116,6 @@ TEST_F(MainPlayerTest, PlayThatFailsIsSaid) {
     EXPECT_EQ(errorHandler.reports[0].procedure, "clsWave.Playwave");
 }
 
-// The wait for the message is cancelled then, so that the play fails.
-TEST_F(MainPlayerTest, ProgramThatEndsWhileAMessageIsReadSaysNothing) {
-    loadOne();
-    sound.onCall = [this](const std::string& call) {
-        if (call.starts_with("Filename "))
-            window->unload(UnloadMode::SessionEnd);
-    };
-    sound.fail("Filename", basic::kDeviceIoError);
-    play();
-    EXPECT_TRUE(window->isUnloaded());
-    EXPECT_THAT(messageBoxes.boxes, IsEmpty());
-}
-
 TEST_F(MainPlayerTest, FailureOfThePlayCommandIsTheDispatchers) {
     loadOne();
     sound.position = 3;
@@ -203,99 +146,6 @@ TEST_F(MainPlayerTest, CommandsReachThePlayer) {
     for (const char* other : {"misplay", "miSplay", "miSFWD"})
         window->ab_ToolClick(other);
     EXPECT_THAT(sound.takeLog(), IsEmpty());
-}
-
-TEST_F(MainPlayerTest, ButtonsFollowTheSelectionWhileNothingPlays) {
-    loadOne();
-    EXPECT_EQ(buttons(), "-----");
-    select("KC2");
-    window->UpdateButtonStates();
-    EXPECT_EQ(buttons(), "-----");
-    select("KC1");
-    Q_EMIT list().ItemClick(2);
-    EXPECT_EQ(buttons(), "+----");
-}
-
-TEST_F(MainPlayerTest, ButtonsFollowThePlayer) {
-    loadOne();
-    play();
-    EXPECT_EQ(buttons(), "x++++");
-    window->ab_ToolClick("miSPause");
-    EXPECT_EQ(buttons(), "++x++");
-    window->ab_ToolClick("miSPlay");
-    EXPECT_EQ(buttons(), "x++++");
-    window->ab_ToolClick("miSStop");
-    EXPECT_EQ(buttons(), "+----");
-}
-
-TEST_F(MainPlayerTest, ButtonsGoBackAtTheEndOfTheMessage) {
-    loadOne();
-    play();
-    sound.isRunning = false;
-    sound.ending = mediagraph::EventCode::Complete;
-    EXPECT_TRUE(QTest::qWaitFor([this] { return buttons() == "+----"; }));
-}
-
-TEST_F(MainPlayerTest, PauseWithoutASelectedMessageLeavesPlayEnabledWhilePlaybackCounts) {
-    loadOne();
-    play();
-    select("KC2");
-    window->ab_ToolClick("miSPause");
-    EXPECT_EQ(buttons(), "++x++");
-    window->ab_ToolClick("miSStop");
-    EXPECT_EQ(buttons(), "-----");
-}
-
-TEST_F(MainPlayerTest, OnlyTheStatusBandsToolsHaveTheseFlags) {
-    loadOne();
-    play();
-    EXPECT_TRUE(window->ab().Bands("mnuTools").Tools("miSPlay").Enabled());
-    EXPECT_FALSE(window->ab().Bands("mnuTools").Tools("miSPlay").Checked());
-    window->ab_ToolClick("miSStop");
-    EXPECT_TRUE(window->ab().Bands("mnuPopup").Tools("miSPlay").Enabled());
-}
-
-TEST_F(MainPlayerTest, UnloadWindsThePlayerDownBeforeAnythingElseGoes) {
-    loadOne();
-    play();
-    std::vector<std::int32_t> slept;
-    onSleep = [&](std::int32_t ms) {
-        slept.push_back(ms);
-        EXPECT_EQ(notificationArea.messages.back(), 1U) << "the icon is still there";
-        EXPECT_NE(window->state().config, nullptr);
-        EXPECT_FALSE(player().IsPlaying());
-    };
-    notificationArea.messages = {1};
-    window->unload(UnloadMode::Code);
-    EXPECT_EQ(slept, std::vector<std::int32_t>(10, 50));
-    EXPECT_EQ(notificationArea.messages.back(), 2U);
-    EXPECT_EQ(window->ab().Bands("Status").Tools("miSProgress").Custom(), nullptr);
-    EXPECT_TRUE(errorHandler.reports.empty());
-}
-
-TEST_F(MainPlayerTest, CommandsAndTicksDuringTheUnloadDoNothing) {
-    loadOne();
-    select("KC1");
-    onSleep = [&](std::int32_t) {
-        sound.takeLog();
-        window->ab_ToolClick("miSPlay");
-        mailbox(12).append(1);
-        tick();
-        EXPECT_THAT(sound.takeLog(), IsEmpty());
-        EXPECT_EQ(popup(), nullptr);
-    };
-    window->unload(UnloadMode::Code);
-    EXPECT_TRUE(errorHandler.reports.empty());
-}
-
-TEST_F(MainPlayerTest, HiddenWindowPlaysOn) {
-    loadOne();
-    window->showWindow();
-    play();
-    window->close();
-    EXPECT_TRUE(player().IsPlaying());
-    window->ab_ToolClick("miSStop");
-    EXPECT_FALSE(player().IsPlaying());
 }
 
 } // namespace
