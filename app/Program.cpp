@@ -229,8 +229,8 @@ void Program::connectEvents(SingleInstance& instance) {
                                {[this] { activate(m_main); }, [this] { m_main.notificationAreaMissing(); },
                                 [this] { m_main.notificationAreaReturned(); },
                                 [this] { m_main.unload(UnloadMode::SessionEnd); }}};
-    QObject::connect(
-        &m_main, &frmMain::unloaded, qApp, [] { QCoreApplication::exit(); }, Qt::QueuedConnection);
+    // From then on each dialog's event loop ends as it begins.
+    QObject::connect(&m_main, &frmMain::unloading, qApp, [] { QCoreApplication::exit(); });
     QObject::connect(&instance, &SingleInstance::activated, &m_main, [events] { events.activated(); });
     QObject::connect(&m_areaWatch, &shell::NotificationAreaWatch::missing, &m_main,
                      [events] { events.notificationAreaMissing(); });

@@ -202,6 +202,7 @@ void frmMain::unload(UnloadMode mode) {
     if (m_isUnloaded || !Form_QueryUnload(mode))
         return;
     m_isUnloaded = true;
+    Q_EMIT unloading();
     m_services.shareAccess.endWaits();
     ++m_state.generation;
     Form_Unload();

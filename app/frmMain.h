@@ -80,6 +80,9 @@ public:
 
 Q_SIGNALS:
     void ItemChanged(const std::shared_ptr<jet::Connection>& connection, const std::string& callID);
+    // Nobody is to be asked anything any more. Form_Unload lets events run, and a key or a click among them
+    // may open a dialog, which would keep the program from ending.
+    void unloading();
     // Form_Unload has run to its end.
     void unloaded();
 

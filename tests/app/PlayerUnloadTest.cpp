@@ -40,6 +40,19 @@ TEST_F(MainPlayerTest, UnloadWindsThePlayerDownBeforeAnythingElseGoes) {
     EXPECT_TRUE(errorHandler.reports.empty());
 }
 
+TEST_F(MainPlayerTest, UnloadIsToldBeforeItLetsEventsRun) {
+    loadOne();
+    bool isTold = false;
+    bool hasSlept = false;
+    QObject::connect(&*window, &frmMain::unloading, [&] { isTold = true; });
+    onSleep = [&](std::int32_t) {
+        hasSlept = true;
+        EXPECT_TRUE(isTold);
+    };
+    window->unload(UnloadMode::SessionEnd);
+    EXPECT_TRUE(hasSlept);
+}
+
 TEST_F(MainPlayerTest, CommandsAndTicksDuringTheUnloadDoNothing) {
     loadOne();
     select("KC1");

@@ -79,6 +79,13 @@ class ServerTest(ServerScene):
         client.process.popen.terminate()
         self.assertEqual(client.process.wait(2), 0)  # less than a request may take
 
+    def test_ends_though_the_choice_is_confirmed_while_it_ends(self):
+        client = self.start_anew()
+        self.desktop.type('nowhere.invalid')
+        client.process.popen.terminate()
+        self.desktop.key('Return')
+        self.assertEqual(client.process.wait(10), 0)
+
 
 class PasswordTest(ServerScene):
     guests = False
@@ -111,8 +118,11 @@ class PictureTest(ServerScene):
     def keep(self, name, window):
         ARTEFACTS.mkdir(parents=True, exist_ok=True)
         path = ARTEFACTS / f'{name}-{self.lang[:2]}.png'
-        self.desktop.screenshot(path, (window.x, window.y, window.width, window.height))
-        self.assertGreater(os.path.getsize(path), 1000)
+
+        def is_painted():
+            self.desktop.screenshot(path, (window.x, window.y, window.width, window.height))
+            return os.path.getsize(path) > 1000
+        wait_until(is_painted, f'{name} to be painted')
 
     def test_english_or_german(self):
         client = self.start_anew()
