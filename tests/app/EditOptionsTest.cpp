@@ -8,7 +8,6 @@
 #include <QPushButton>
 #include <QTabBar>
 #include <QTest>
-#include <QToolButton>
 
 #include <gmock/gmock.h>
 
@@ -125,7 +124,7 @@ TEST_F(EditOptionsTest, WhatATickBuiltFromSettingsThatWereGivenUpIsBuiltAnew) {
     servers.answer = QStringLiteral("srv01");
     options.action = [this](frmOptions& dialog) {
         waitForList();
-        dialog.findChild<QToolButton*>()->click();
+        press(dialog, "cmdServer");
         tick();
         EXPECT_EQ(onlyLine(), "There are currently no mailboxes configured.");
         dialog.reject();
