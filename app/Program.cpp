@@ -74,8 +74,7 @@ Program::Program(Application& application, SingleInstance& instance)
       m_shownErrors(
           errorLog(), m_clock,
           [this] { return std::make_unique<errors::frmError>(m_facts, m_errorDialogState, &m_report); }),
-      m_errorHandler(m_shownErrors, [this] { return m_waiter.isEnded(); }),
-      m_registry(registry::pathsFromEnvironment(), m_systemCalls),
+      m_errorHandler(m_shownErrors), m_registry(registry::pathsFromEnvironment(), m_systemCalls),
       m_remembered(m_keyring, [this] { passwordNotStored(); }), m_logOns(logOnServices()),
       m_smbServers(smbSurroundings(), smbAddresses()), m_folders(resolver()),
       m_servers(m_smbServers, m_waiter), m_files(resolver(), m_folders, m_servers),
@@ -231,6 +230,7 @@ void Program::connectEvents(SingleInstance& instance) {
                                 [this] { m_main.unload(UnloadMode::SessionEnd); }}};
     // From then on each dialog's event loop ends as it begins.
     QObject::connect(&m_main, &frmMain::unloading, qApp, [] { QCoreApplication::exit(); });
+    QObject::connect(&m_main, &frmMain::unloaded, &m_main, [this] { m_errorHandler.fallSilent(); });
     QObject::connect(&instance, &SingleInstance::activated, &m_main, [events] { events.activated(); });
     QObject::connect(&m_areaWatch, &shell::NotificationAreaWatch::missing, &m_main,
                      [events] { events.notificationAreaMissing(); });

@@ -56,6 +56,16 @@ TEST_F(UnloadTest, ConnectionThatDoesNotCloseIsReleasedAndNotReported) {
     EXPECT_TRUE(errorHandler.reports.empty());
 }
 
+// From then on nothing is reported any more.
+TEST_F(UnloadTest, IsSaidToBeOverWhenWhatFailedInItIsReported) {
+    notificationArea.failing = 2; // NIM_DELETE
+    std::size_t reports = 0;
+    QObject::connect(&*window, &frmMain::unloaded, [&] { reports = errorHandler.reports.size(); });
+    window->unload(UnloadMode::Code);
+    EXPECT_EQ(reports, 1U);
+    notificationArea.failing.reset();
+}
+
 TEST_F(UnloadTest, UserOnlyHidesTheWindow) {
     window->showWindow();
     window->unload(UnloadMode::User);
