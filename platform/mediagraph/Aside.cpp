@@ -4,16 +4,17 @@
 
 #include "platform/basic/RuntimeError.h"
 
+#include <algorithm>
 #include <system_error>
 #include <thread>
 
 namespace mediagraph {
 
-bool Patience::isOver(std::size_t steps) {
-    const auto now = Clock::now();
-    if (std::exchange(m_steps, steps) != steps)
-        m_lastStep = now;
-    return now - m_lastStep > m_limits.withoutProgress || now - m_start > m_limits.total;
+bool Patience::isOver(std::size_t steps, Clock::time_point now) {
+    const auto turn = std::min<Clock::duration>(now - std::exchange(m_lastLook, now), kLongestTurn);
+    m_total += turn;
+    m_withoutProgress = std::exchange(m_steps, steps) == steps ? m_withoutProgress + turn : Clock::duration{};
+    return m_withoutProgress > m_limits.withoutProgress || m_total > m_limits.total;
 }
 
 void Aside::start(std::function<void()> body) {

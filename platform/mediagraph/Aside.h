@@ -30,18 +30,23 @@ struct WaitLimits {
     std::chrono::milliseconds total;
 };
 
-// Watches over one piece of work: whether its time is over.
+// Watches over one piece of work: whether its time is over. Time between two looks counts up to half a second
+// only: while the machine slept, or the program was stopped, the work had no chance to get on either.
 class Patience {
 public:
     using Clock = std::chrono::steady_clock;
 
-    explicit Patience(WaitLimits limits) : m_limits(limits), m_start(Clock::now()), m_lastStep(m_start) {}
-    bool isOver(std::size_t steps);
+    explicit Patience(WaitLimits limits, Clock::time_point now = Clock::now())
+        : m_limits(limits), m_lastLook(now) {}
+    bool isOver(std::size_t steps, Clock::time_point now = Clock::now());
 
 private:
+    static constexpr std::chrono::milliseconds kLongestTurn{500};
+
     WaitLimits m_limits;
-    Clock::time_point m_start;
-    Clock::time_point m_lastStep;
+    Clock::time_point m_lastLook;
+    Clock::duration m_total{};
+    Clock::duration m_withoutProgress{};
     std::size_t m_steps = 0;
 };
 
