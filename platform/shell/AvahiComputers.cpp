@@ -4,6 +4,7 @@
 
 #include <QDBusPendingCallWatcher>
 #include <QDBusPendingReply>
+#include <QDBusServiceWatcher>
 
 #include <utility>
 
@@ -50,11 +51,13 @@ void AvahiComputers::listen() {
 
 void AvahiComputers::start() {
     if (!m_bus.isConnected()) {
-        m_isAllTold = true;
-        endSearch();
+        allTold();
         return;
     }
     listen();
+    auto* daemon =
+        new QDBusServiceWatcher(kService, m_bus, QDBusServiceWatcher::WatchForUnregistration, this);
+    connect(daemon, &QDBusServiceWatcher::serviceUnregistered, this, &AvahiComputers::allTold);
     QDBusMessage message = call(QStringLiteral("/"), kServer, QStringLiteral("ServiceBrowserNew"));
     message << kAnyInterface << kAnyProtocol << kType << QString() << kNoFlags;
     auto* reply = new QDBusPendingCallWatcher(m_bus.asyncCall(message, kTimeoutMilliseconds), this);
@@ -62,8 +65,7 @@ void AvahiComputers::start() {
         reply->deleteLater();
         const QDBusPendingReply<QDBusObjectPath> browser = *reply;
         if (browser.isError()) {
-            m_isAllTold = true;
-            endSearch();
+            allTold();
             return;
         }
         m_browser = browser.value();
@@ -115,12 +117,16 @@ void AvahiComputers::allForNow(const QDBusMessage& message) {
     }
     if (!isOurs(message))
         return;
-    m_isAllTold = true;
-    endSearch();
+    allTold();
 }
 
 void AvahiComputers::failure(const QString&, const QDBusMessage& message) {
     allForNow(message);
+}
+
+void AvahiComputers::allTold() {
+    m_isAllTold = true;
+    endSearch();
 }
 
 void AvahiComputers::endSearch() {

@@ -33,6 +33,7 @@ private:
     bool isOurs(const QDBusMessage& message) const;
     void listen();
     void resolve(const QDBusMessage& item);
+    void allTold();
     void endSearch();
 
     QDBusConnection m_bus;

@@ -106,6 +106,12 @@ TEST_F(AvahiComputersTest, EndsTheSearchWhenTheDaemonGivesUp) {
     searchToTheEnd();
 }
 
+TEST_F(AvahiComputersTest, EndsTheSearchWhenTheDaemonEnds) {
+    StubAvahi avahi(m_bus.connection());
+    avahi.afterReply = [&] { avahi.leave(); };
+    searchToTheEnd();
+}
+
 TEST_F(AvahiComputersTest, FindsNothingWithoutADaemon) {
     searchToTheEnd();
     EXPECT_THAT(m_found, IsEmpty());

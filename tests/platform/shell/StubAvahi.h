@@ -33,6 +33,9 @@ public:
     void tellAllForNow() { send(QString::fromLatin1(kOurBrowser), QStringLiteral("AllForNow"), {}); }
     void fail() { send(QString::fromLatin1(kOurBrowser), QStringLiteral("Failure"), {QStringLiteral("no")}); }
 
+    // As a daemon that ends.
+    void leave() { m_bus.unregisterService(QStringLiteral("org.freedesktop.Avahi")); }
+
     bool handleMessage(const QDBusMessage& message, const QDBusConnection& bus) override {
         if (message.member() == QStringLiteral("ServiceBrowserNew")) {
             browsed = message.arguments();
