@@ -1,21 +1,11 @@
 // SPDX-FileCopyrightText: 2026 The qmClient authors
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "app/ShareWaiter.h"
-
-#include "platform/share/smb/PacketSocket.h"
+#include "tests/app/ShareWaiterTest.h"
 
 #include <QCoreApplication>
-#include <QDialog>
-#include <QMenu>
-#include <QPushButton>
 #include <QTest>
 #include <QTimer>
 
-#include <gtest/gtest.h>
-
-#include <chrono>
-#include <memory>
-#include <optional>
 #include <thread>
 
 namespace app {
@@ -23,19 +13,6 @@ namespace {
 
 using namespace std::chrono_literals;
 using share::smb::Waited;
-
-class ShareWaiterTest : public testing::Test {
-protected:
-    void answer() { m_there.send(std::vector<std::byte>(1)); }
-    Waited wait(std::chrono::milliseconds atMost = 60min) {
-        return m_waiter.untilReadable(m_here.descriptor(), atMost);
-    }
-
-    std::pair<share::smb::PacketSocket, share::smb::PacketSocket> m_ends = share::smb::PacketSocket::pair();
-    share::smb::PacketSocket& m_here = m_ends.first;
-    share::smb::PacketSocket& m_there = m_ends.second;
-    ShareWaiter m_waiter;
-};
 
 TEST_F(ShareWaiterTest, LetsEventsRunUntilTheAnswerComes) {
     QTimer::singleShot(0, &m_waiter, [this] {
@@ -174,158 +151,6 @@ TEST_F(ShareWaiterTest, DropsSuchWorkAtTheEndOfTheProgram) {
     EXPECT_EQ(wait(), Waited::Cancelled);
     QCoreApplication::processEvents();
     EXPECT_FALSE(isDone);
-}
-
-// A window with a button in it, and a user who clicks when the wait has taken long.
-class InputTest : public ShareWaiterTest {
-protected:
-    InputTest() {
-        watch(m_button);
-        m_button.show();
-        EXPECT_TRUE(QTest::qWaitForWindowExposed(&m_button));
-    }
-    // A shortcut's click comes some time after its press.
-    void watch(QPushButton& button) {
-        QObject::connect(&button, &QPushButton::pressed, &button,
-                         [this] { m_wasWaiting = m_waiter.isWaiting(); });
-        QObject::connect(&button, &QPushButton::clicked, &button, [this] { ++m_clicks; });
-    }
-    // Begins to count inside of the wait, later than the wait itself; and an event later than a timer of that
-    // time the waiter has done what it does then, though both timers be due at once.
-    void whenTheWaitIsLong(std::function<void()> action) {
-        const auto act = [this, action = std::move(action)] {
-            action();
-            answer();
-        };
-        QTimer::singleShot(0, &m_waiter, [this, act] {
-            QTimer::singleShot(ShareWaiter::kInputPatience + 100ms, &m_waiter,
-                               [this, act] { QTimer::singleShot(0, &m_waiter, act); });
-        });
-    }
-    void click() { QTest::mouseClick(m_button.windowHandle(), Qt::LeftButton, {}, m_button.rect().center()); }
-    bool isClicked() {
-        return QTest::qWaitFor([this] { return m_clicks > 0; });
-    }
-
-    QPushButton m_button{QStringLiteral("&Save")};
-    std::optional<bool> m_wasWaiting; // when it was pressed
-    int m_clicks = 0;
-};
-
-TEST_F(InputTest, IsHeldInALongWaitAndHandedOutAfterwards) {
-    whenTheWaitIsLong([this] { click(); });
-    EXPECT_EQ(wait(), Waited::Ready);
-    EXPECT_EQ(m_wasWaiting, std::nullopt);
-    ASSERT_TRUE(isClicked());
-    EXPECT_EQ(m_wasWaiting, false);
-}
-
-TEST_F(InputTest, IsNotHandedOutInsideOfTheNextWait) {
-    whenTheWaitIsLong([this] { click(); });
-    EXPECT_EQ(wait(), Waited::Ready);
-    m_here.receive();
-    EXPECT_EQ(wait(100ms), Waited::TimeOver);
-    EXPECT_EQ(m_wasWaiting, std::nullopt);
-    EXPECT_TRUE(isClicked());
-}
-
-TEST_F(InputTest, OfAShortcutIsHeldToo) {
-    EXPECT_TRUE(QTest::qWaitForWindowActive(&m_button));
-    whenTheWaitIsLong([this] {
-        QTest::keyClick(m_button.windowHandle(), Qt::Key_S, Qt::AltModifier);
-        QCoreApplication::processEvents(); // it comes as the window system's events do
-    });
-    EXPECT_EQ(wait(), Waited::Ready);
-    EXPECT_EQ(m_wasWaiting, std::nullopt);
-    ASSERT_TRUE(isClicked());
-    EXPECT_EQ(m_wasWaiting, false);
-}
-
-TEST_F(InputTest, ReachesAMenuThatIsOpen) {
-    QMenu menu;
-    bool wasWaiting = false;
-    menu.addAction(QStringLiteral("Close"), &menu, [&] { wasWaiting = m_waiter.isWaiting(); });
-    whenTheWaitIsLong([&menu] {
-        menu.popup({});
-        EXPECT_TRUE(QTest::qWaitForWindowExposed(&menu));
-        QTest::mouseClick(menu.windowHandle(), Qt::LeftButton, {}, menu.rect().center());
-    });
-    EXPECT_EQ(wait(), Waited::Ready);
-    EXPECT_TRUE(wasWaiting);
-}
-
-TEST_F(InputTest, ReachesADialogThatComesUpMeanwhile) {
-    QDialog dialog;
-    QPushButton ok(QStringLiteral("OK"), &dialog);
-    watch(ok);
-    whenTheWaitIsLong([&] {
-        dialog.open();
-        EXPECT_TRUE(QTest::qWaitForWindowExposed(&dialog));
-        QTest::mouseClick(dialog.windowHandle(), Qt::LeftButton, {}, ok.geometry().center());
-    });
-    EXPECT_EQ(wait(), Waited::Ready);
-    EXPECT_EQ(m_wasWaiting, true);
-}
-
-TEST_F(InputTest, OfADialogThatWaitsIsHeld) {
-    QDialog dialog;
-    QPushButton ok(QStringLiteral("OK"), &dialog);
-    watch(ok);
-    dialog.open();
-    EXPECT_TRUE(QTest::qWaitForWindowExposed(&dialog));
-    whenTheWaitIsLong(
-        [&] { QTest::mouseClick(dialog.windowHandle(), Qt::LeftButton, {}, ok.geometry().center()); });
-    EXPECT_EQ(wait(), Waited::Ready);
-    EXPECT_EQ(m_wasWaiting, std::nullopt);
-    ASSERT_TRUE(isClicked());
-    EXPECT_EQ(m_wasWaiting, false);
-}
-
-TEST_F(InputTest, OfADialogBehindOneThatIsClosedIsHeld) {
-    QDialog behind;
-    QPushButton ok(QStringLiteral("OK"), &behind);
-    watch(ok);
-    behind.open();
-    EXPECT_TRUE(QTest::qWaitForWindowExposed(&behind));
-    QDialog front(&behind);
-    front.open();
-    EXPECT_TRUE(QTest::qWaitForWindowExposed(&front));
-    whenTheWaitIsLong([&] {
-        front.close();
-        QTest::mouseClick(behind.windowHandle(), Qt::LeftButton, {}, ok.geometry().center());
-    });
-    EXPECT_EQ(wait(), Waited::Ready);
-    EXPECT_EQ(m_wasWaiting, std::nullopt);
-    ASSERT_TRUE(isClicked());
-    EXPECT_EQ(m_wasWaiting, false);
-}
-
-TEST_F(InputTest, IsDroppedForAWindowThatADialogCovers) {
-    whenTheWaitIsLong([this] { click(); });
-    EXPECT_EQ(wait(), Waited::Ready);
-    QDialog dialog;
-    dialog.open();
-    EXPECT_TRUE(QTest::qWaitForWindowExposed(&dialog));
-    QCoreApplication::processEvents(); // hands out what is not dropped
-    dialog.reject();
-    m_here.receive();
-    EXPECT_EQ(wait(1ms), Waited::TimeOver); // its end hands out as well
-    QCoreApplication::processEvents();
-    EXPECT_EQ(m_wasWaiting, std::nullopt);
-    click();
-    EXPECT_TRUE(isClicked());
-    EXPECT_EQ(m_clicks, 1);
-}
-
-TEST_F(InputTest, ForAWindowThatIsGoneIsDropped) {
-    auto gone = std::make_unique<QPushButton>();
-    gone->show();
-    EXPECT_TRUE(QTest::qWaitForWindowExposed(gone.get()));
-    whenTheWaitIsLong([&gone] { QTest::mouseClick(gone->windowHandle(), Qt::LeftButton); });
-    EXPECT_EQ(wait(), Waited::Ready);
-    gone.reset();
-    click();
-    EXPECT_TRUE(isClicked());
 }
 
 } // namespace
