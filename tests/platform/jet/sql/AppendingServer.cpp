@@ -52,7 +52,8 @@ bool meansBusy(const basic::RuntimeError& error) {
     return error.number() == basic::kFileAlreadyOpen || error.number() == basic::kProviderFailure;
 }
 
-// Counts between two readings. Unless somebody deleted meanwhile, the count lies between their sizes.
+// Counts between two readings. Unless somebody deleted meanwhile, the count lies between their sizes, but for
+// a row that is just being added.
 class CountedReading {
 public:
     bool see(Connection& connection, const std::string& database, Observer& observer) {
@@ -75,12 +76,14 @@ public:
     int compared() const noexcept { return m_compared; }
 
 private:
+    // The server adds one row at a time, and a reader that takes no lock may see it before it is counted.
     void expectBetween(std::size_t least, std::size_t counted, std::size_t most) {
-        EXPECT_LE(least, counted);
+        EXPECT_LE(least, counted + kBeingAdded);
         EXPECT_LE(counted, most);
         ++m_compared;
     }
 
+    static constexpr std::size_t kBeingAdded = 1;
     int m_compared = 0;
 };
 
