@@ -1,6 +1,7 @@
 # SPDX-FileCopyrightText: 2026 The qmClient authors
 # SPDX-License-Identifier: GPL-3.0-or-later
 """The private desktop itself: it must end what it started, and see what is there."""
+import contextlib
 import pathlib
 import signal
 import subprocess
@@ -63,6 +64,17 @@ class DesktopTest(unittest.TestCase):
             desktop.start(['sh', '-c', '(setsid sleep 600 &) ; exit 0']).wait(5)
             self.assertEqual(len(set(marked(desktop.folder)) - before), 1)
         self.assertEqual(marked(desktop.folder), [])
+
+    def test_complains_of_a_program_that_was_to_end_well_and_did_not(self):
+        for code, complaint in ((0, None), (3, 'sh ended with 3: so it is')):
+            with self.subTest(code=code):
+                desktop = Desktop().__enter__()
+                program = desktop.start(['sh', '-c', f'trap "echo so it is >&2; exit {code}" TERM; echo set; '
+                                                     'sleep 600 & wait'])
+                program.ends_well = True
+                wait_until(program.output, 'the shell to be ready')
+                with self.assertRaisesRegex(DesktopError, complaint) if complaint else contextlib.nullcontext():
+                    desktop.__exit__()
 
     def test_finds_windows_by_title_and_process(self):
         with Desktop() as desktop:

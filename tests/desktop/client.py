@@ -21,6 +21,7 @@ class Client:
     def __init__(self, desktop, executable=None, **how):
         self.desktop = desktop
         self.process = desktop.start([executable or program('qmClient')], **how)
+        self.process.ends_well = True
         self._half = 1
 
     @property

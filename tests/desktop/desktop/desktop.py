@@ -49,12 +49,12 @@ class Desktop:
         if self.windows:
             self.windows.close()
         # Last started, first ended: the X server and the bus outlive their users.
-        for program in reversed(self._programs):
-            program.end()
-        left = end_strays(self.folder)
+        complaints = [program.end_or_complain() for program in reversed(self._programs)]
+        if left := end_strays(self.folder):
+            complaints.append(f'processes {left} of the desktop do not end')
         self._lifetime.__exit__(None, None, None)
-        if left:
-            raise DesktopError(f'processes {left} of the desktop do not end')
+        if any(complaints):
+            raise DesktopError('; '.join(filter(None, complaints)))
 
     def _start(self):
         logs = self.folder / 'logs'

@@ -14,6 +14,7 @@ import subprocess
 import tempfile
 import time
 
+_END_SECONDS = 30  # of a program that has to end well, on a busy machine
 PR_SET_PDEATHSIG, PR_SET_CHILD_SUBREAPER = 1, 36
 MARK = 'QM_DESKTOP'
 _libc = ctypes.CDLL(None)
@@ -42,6 +43,8 @@ def die_with_parent():
 
 class Program:
     """A running program; its output goes to two files that can be read at any time."""
+
+    ends_well = False  # whether it is a failure when it does not end by itself, and with 0, once it is asked to
 
     def __init__(self, argv, env, cwd, logs, pass_fds=(), stdin=subprocess.DEVNULL, stdout=None):
         self.argv = [str(word) for word in argv]
@@ -83,6 +86,14 @@ class Program:
             except subprocess.TimeoutExpired:
                 self.popen.kill()
         return self.popen.wait(5)
+
+    def end_or_complain(self):
+        """Ends it; tells what was wrong with how it ended if it has to end well and still ran."""
+        if not (self.ends_well and self.alive):
+            self.end()
+            return None
+        code = self.end(_END_SECONDS)
+        return f'{self.name} ended with {code}: {self.errors()[-800:]}' if code != 0 else None
 
     def memory_kib(self):
         """Resident memory."""
