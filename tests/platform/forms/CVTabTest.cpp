@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "platform/forms/CVTab.h"
 
-#include "tests/platform/forms/RaisedError.h"
+#include "tests/platform/basic/ErrorOf.h"
 
 #include <QLabel>
 #include <QLineEdit>
@@ -46,10 +46,10 @@ TEST_F(CVTabTest, ACaptionIsShownAsItIsAndCanBeSetAgain) {
 
 TEST_F(CVTabTest, UnknownTabsAreElementNotFound) {
     tab.AddTab("Options");
-    EXPECT_EQ(raisedError([&] { tab.TabCaption(0); }), basic::kElementNotFound);
-    EXPECT_EQ(raisedError([&] { tab.SetTabCaption(2, "x"); }), basic::kElementNotFound);
-    EXPECT_EQ(raisedError([&] { tab.Page(2); }), basic::kElementNotFound);
-    EXPECT_EQ(raisedError([&] { tab.SetSelectedTab(0); }), basic::kElementNotFound);
+    EXPECT_EQ(basic::errorOf([&] { tab.TabCaption(0); }), basic::kElementNotFound);
+    EXPECT_EQ(basic::errorOf([&] { tab.SetTabCaption(2, "x"); }), basic::kElementNotFound);
+    EXPECT_EQ(basic::errorOf([&] { tab.Page(2); }), basic::kElementNotFound);
+    EXPECT_EQ(basic::errorOf([&] { tab.SetSelectedTab(0); }), basic::kElementNotFound);
 }
 
 TEST_F(CVTabTest, TheFrameHasRoomForItsPage) {

@@ -2,8 +2,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 //
 // What a command bar shows that is not its own: widgets in it, and the window's other parts.
+#include "tests/platform/basic/ErrorOf.h"
 #include "tests/platform/forms/CommandBarTest.h"
-#include "tests/platform/forms/RaisedError.h"
 
 #include <QAction>
 #include <QCoreApplication>
@@ -61,7 +61,7 @@ TEST_F(CommandBarTest, AHostedWidgetOutlivesItsCommandBar) {
 
 TEST_F(CommandBarTest, OnlyAToolbarHostsWidgets) {
     QLabel label;
-    EXPECT_EQ(raisedError([&] { ab.Bands("mnuFile").Tools(0).SetCustom(&label); }),
+    EXPECT_EQ(basic::errorOf([&] { ab.Bands("mnuFile").Tools(0).SetCustom(&label); }),
               basic::kInvalidProcedureCall);
 }
 

@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "tests/platform/forms/CommandBarTest.h"
 
-#include "tests/platform/forms/RaisedError.h"
+#include "tests/platform/basic/ErrorOf.h"
 
 #include <QAction>
 #include <QMenu>
@@ -22,11 +22,11 @@ TEST_F(CommandBarTest, ToolsAreAddressedByIndexSeparatorsCounting) {
 }
 
 TEST_F(CommandBarTest, UnknownBandsAndToolsAreElementNotFound) {
-    EXPECT_EQ(raisedError([&] { ab.Bands(4); }), basic::kElementNotFound);
-    EXPECT_EQ(raisedError([&] { ab.Bands(-1); }), basic::kElementNotFound);
-    EXPECT_EQ(raisedError([&] { ab.Bands("mnuNone"); }), basic::kElementNotFound);
-    EXPECT_EQ(raisedError([&] { ab.Bands(0).Tools(4); }), basic::kElementNotFound);
-    EXPECT_EQ(raisedError([&] { ab.Bands(0).Tools("miNone"); }), basic::kElementNotFound);
+    EXPECT_EQ(basic::errorOf([&] { ab.Bands(4); }), basic::kElementNotFound);
+    EXPECT_EQ(basic::errorOf([&] { ab.Bands(-1); }), basic::kElementNotFound);
+    EXPECT_EQ(basic::errorOf([&] { ab.Bands("mnuNone"); }), basic::kElementNotFound);
+    EXPECT_EQ(basic::errorOf([&] { ab.Bands(0).Tools(4); }), basic::kElementNotFound);
+    EXPECT_EQ(basic::errorOf([&] { ab.Bands(0).Tools("miNone"); }), basic::kElementNotFound);
 }
 
 TEST_F(CommandBarTest, AButtonIsOneClickOfItsOwnTool) {
@@ -97,8 +97,8 @@ TEST_F(CommandBarTest, ADropDownMayBeAddedBeforeOrAfterWhatOpensIt) {
 }
 
 TEST_F(CommandBarTest, OnlyMenusCanBeOpenedAsContextMenus) {
-    EXPECT_EQ(raisedError([&] { ab.PopupMenu("Status", {}); }), basic::kInvalidProcedureCall);
-    EXPECT_EQ(raisedError([&] { ab.PopupMenu("mnuNone", {}); }), basic::kElementNotFound);
+    EXPECT_EQ(basic::errorOf([&] { ab.PopupMenu("Status", {}); }), basic::kInvalidProcedureCall);
+    EXPECT_EQ(basic::errorOf([&] { ab.PopupMenu("mnuNone", {}); }), basic::kElementNotFound);
 }
 
 } // namespace

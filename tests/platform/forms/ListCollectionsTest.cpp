@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The qmClient authors
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "platform/forms/ListView.h"
-#include "tests/platform/forms/RaisedError.h"
+#include "tests/platform/basic/ErrorOf.h"
 
 #include <QCoreApplication>
 #include <QTreeView>
@@ -31,31 +31,32 @@ TEST_F(ListCollections, CountFromOne) {
 
 TEST_F(ListCollections, UnknownIndexOrKeyIsElementNotFound) {
     list.ListItems().Add("K1", "");
-    EXPECT_EQ(raisedError([&] { list.ListItems().Item(0); }), basic::kElementNotFound);
-    EXPECT_EQ(raisedError([&] { list.ListItems().Item(2); }), basic::kElementNotFound);
-    EXPECT_EQ(raisedError([&] { list.ListItems().Item("K2"); }), basic::kElementNotFound);
-    EXPECT_EQ(raisedError([&] { list.ColumnHeaders().Item(0); }), basic::kElementNotFound);
-    EXPECT_EQ(raisedError([&] { list.ColumnHeaders().Item(3); }), basic::kElementNotFound);
+    EXPECT_EQ(basic::errorOf([&] { list.ListItems().Item(0); }), basic::kElementNotFound);
+    EXPECT_EQ(basic::errorOf([&] { list.ListItems().Item(2); }), basic::kElementNotFound);
+    EXPECT_EQ(basic::errorOf([&] { list.ListItems().Item("K2"); }), basic::kElementNotFound);
+    EXPECT_EQ(basic::errorOf([&] { list.ColumnHeaders().Item(0); }), basic::kElementNotFound);
+    EXPECT_EQ(basic::errorOf([&] { list.ColumnHeaders().Item(3); }), basic::kElementNotFound);
 }
 
 TEST_F(ListCollections, DuplicateKeyIsNotUnique) {
     list.ListItems().Add("K", "");
-    EXPECT_EQ(raisedError([&] { list.ListItems().Add("K", ""); }), basic::kKeyNotUnique);
-    EXPECT_EQ(raisedError([&] { list.ColumnHeaders().Add("Again", {10}, 0, "Date"); }), basic::kKeyNotUnique);
+    EXPECT_EQ(basic::errorOf([&] { list.ListItems().Add("K", ""); }), basic::kKeyNotUnique);
+    EXPECT_EQ(basic::errorOf([&] { list.ColumnHeaders().Add("Again", {10}, 0, "Date"); }),
+              basic::kKeyNotUnique);
     EXPECT_EQ(list.ListItems().Count(), 1);
     EXPECT_EQ(list.ColumnHeaders().Count(), 2);
 }
 
 TEST_F(ListCollections, SubItemsOutsideTheColumnsAreRefused) {
     ListItem item = list.ListItems().Add("K", "");
-    EXPECT_EQ(raisedError([&] { item.SetSubItems(0, "x"); }), basic::kInvalidPropertyValue);
-    EXPECT_EQ(raisedError([&] { item.SetSubItems(2, "x"); }), basic::kInvalidPropertyValue);
-    EXPECT_EQ(raisedError([&] { item.SetSubItems(1, "x"); }), 0);
+    EXPECT_EQ(basic::errorOf([&] { item.SetSubItems(0, "x"); }), basic::kInvalidPropertyValue);
+    EXPECT_EQ(basic::errorOf([&] { item.SetSubItems(2, "x"); }), basic::kInvalidPropertyValue);
+    EXPECT_EQ(basic::errorOf([&] { item.SetSubItems(1, "x"); }), 0);
     EXPECT_EQ(item.SubItems(1), "x");
 }
 
 TEST_F(ListCollections, AnUnknownAlignmentIsRefused) {
-    EXPECT_EQ(raisedError([&] { list.ColumnHeaders().Add("x", {10}, 3); }), basic::kInvalidPropertyValue);
+    EXPECT_EQ(basic::errorOf([&] { list.ColumnHeaders().Add("x", {10}, 3); }), basic::kInvalidPropertyValue);
     EXPECT_EQ(list.ColumnHeaders().Count(), 2);
 }
 
@@ -63,10 +64,10 @@ TEST_F(ListCollections, AnItemOfAClearedListIsNoItem) {
     ListItem item = list.ListItems().Add("K", "");
     list.ListItems().Clear();
     list.ListItems().Add("K", "");
-    EXPECT_EQ(raisedError([&] { static_cast<void>(item.Key()); }), basic::kElementNotFound);
-    EXPECT_EQ(raisedError([&] { item.SetSelected(true); }), basic::kElementNotFound);
-    EXPECT_EQ(raisedError([&] { list.SetSelectedItem(item); }), basic::kElementNotFound);
-    EXPECT_EQ(raisedError([&] { list.EnsureVisible(item); }), basic::kElementNotFound);
+    EXPECT_EQ(basic::errorOf([&] { static_cast<void>(item.Key()); }), basic::kElementNotFound);
+    EXPECT_EQ(basic::errorOf([&] { item.SetSelected(true); }), basic::kElementNotFound);
+    EXPECT_EQ(basic::errorOf([&] { list.SetSelectedItem(item); }), basic::kElementNotFound);
+    EXPECT_EQ(basic::errorOf([&] { list.EnsureVisible(item); }), basic::kElementNotFound);
 }
 
 TEST_F(ListCollections, ItemsKeepWhatTheyAreGiven) {

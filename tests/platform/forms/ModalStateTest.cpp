@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "platform/forms/ModalState.h"
 
-#include "tests/platform/forms/RaisedError.h"
+#include "tests/platform/basic/ErrorOf.h"
 
 #include <QDialog>
 
@@ -14,7 +14,7 @@ namespace {
 TEST(ModalState, AWindowIsShownWhenNoModalOneIsUp) {
     QWidget window;
     EXPECT_FALSE(isModalUp());
-    EXPECT_EQ(raisedError([&] { showNonModal(window); }), 0);
+    EXPECT_EQ(basic::errorOf([&] { showNonModal(window); }), 0);
     EXPECT_TRUE(window.isVisible());
 }
 
@@ -24,10 +24,10 @@ TEST(ModalState, NoWindowIsShownWhileAModalOneIsUp) {
     modal.setModal(true);
     modal.show();
     EXPECT_TRUE(isModalUp());
-    EXPECT_EQ(raisedError([&] { showNonModal(window); }), basic::kNonModalWhileModal);
+    EXPECT_EQ(basic::errorOf([&] { showNonModal(window); }), basic::kNonModalWhileModal);
     EXPECT_FALSE(window.isVisible());
     modal.close();
-    EXPECT_EQ(raisedError([&] { showNonModal(window); }), 0);
+    EXPECT_EQ(basic::errorOf([&] { showNonModal(window); }), 0);
 }
 
 } // namespace

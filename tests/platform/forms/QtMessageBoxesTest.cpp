@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "platform/forms/QtMessageBoxes.h"
 
-#include "tests/platform/forms/RaisedError.h"
+#include "tests/platform/basic/ErrorOf.h"
 
 #include <QApplication>
 #include <QMessageBox>
@@ -113,8 +113,8 @@ TEST_F(QtMessageBoxesTest, TheActiveWindowOwnsTheBox) {
 }
 
 TEST_F(QtMessageBoxesTest, AnUnknownStyleIsRefused) {
-    EXPECT_EQ(raisedError([&] { boxes.show({}, 2, {}); }), basic::kInvalidProcedureCall);
-    EXPECT_EQ(raisedError([&] { boxes.show({}, kOkOnly | 0x80, {}); }), basic::kInvalidProcedureCall);
+    EXPECT_EQ(basic::errorOf([&] { boxes.show({}, 2, {}); }), basic::kInvalidProcedureCall);
+    EXPECT_EQ(basic::errorOf([&] { boxes.show({}, kOkOnly | 0x80, {}); }), basic::kInvalidProcedureCall);
 }
 
 } // namespace

@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "platform/forms/RowStore.h"
 
-#include "tests/platform/forms/RaisedError.h"
+#include "tests/platform/basic/ErrorOf.h"
 
 #include <gtest/gtest.h>
 
@@ -22,7 +22,7 @@ TEST(RowStore, FindsRowsByKey) {
 TEST(RowStore, RefusesAKeyThatIsThereAndAddsNothing) {
     RowStore rows;
     rows.add("K1", "one");
-    EXPECT_EQ(raisedError([&] { rows.add("K1", "again"); }), basic::kKeyNotUnique);
+    EXPECT_EQ(basic::errorOf([&] { rows.add("K1", "again"); }), basic::kKeyNotUnique);
     EXPECT_EQ(rows.count(), 1);
     EXPECT_EQ(rows.text(0, 0), "one");
 }

@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "platform/forms/TabStrip.h"
 
-#include "tests/platform/forms/RaisedError.h"
+#include "tests/platform/basic/ErrorOf.h"
 
 #include <QTabBar>
 #include <QTest>
@@ -47,15 +47,15 @@ TEST_F(TabStripTest, TabsAreFoundByIndexAndKey) {
 
 TEST_F(TabStripTest, UnknownTabsAreElementNotFound) {
     addTwo();
-    EXPECT_EQ(raisedError([&] { strip.Tabs().Item(0); }), basic::kElementNotFound);
-    EXPECT_EQ(raisedError([&] { strip.Tabs().Item(3); }), basic::kElementNotFound);
-    EXPECT_EQ(raisedError([&] { strip.Tabs().Item("KEY1"); }), basic::kElementNotFound);
-    EXPECT_EQ(raisedError([&] { strip.SetSelectedItem(3); }), basic::kElementNotFound);
+    EXPECT_EQ(basic::errorOf([&] { strip.Tabs().Item(0); }), basic::kElementNotFound);
+    EXPECT_EQ(basic::errorOf([&] { strip.Tabs().Item(3); }), basic::kElementNotFound);
+    EXPECT_EQ(basic::errorOf([&] { strip.Tabs().Item("KEY1"); }), basic::kElementNotFound);
+    EXPECT_EQ(basic::errorOf([&] { strip.SetSelectedItem(3); }), basic::kElementNotFound);
 }
 
 TEST_F(TabStripTest, ADuplicateKeyIsNotUnique) {
     addTwo();
-    EXPECT_EQ(raisedError([&] { strip.Tabs().Add("KEY7", "Again"); }), basic::kKeyNotUnique);
+    EXPECT_EQ(basic::errorOf([&] { strip.Tabs().Add("KEY7", "Again"); }), basic::kKeyNotUnique);
     EXPECT_EQ(strip.Tabs().Count(), 2);
     EXPECT_EQ(bar().count(), 2);
 }

@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The qmClient authors
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "platform/jet/TableWriter.h"
-#include "tests/platform/jet/ErrorNumberOf.h"
+#include "tests/platform/basic/ErrorOf.h"
 #include "tests/platform/jet/WrittenDatabase.h"
 
 #include <gmock/gmock.h>
@@ -182,7 +182,7 @@ TEST_F(ColumnTypes, ValuesThatDoNotFitAreRefusedAndNothingIsWritten) {
     for (const Case& entry : cases) {
         Values row = nothing();
         row[entry.column] = entry.value;
-        EXPECT_EQ(errorNumberOf([&] { writer.insert(row); }), entry.error) << "column " << entry.column;
+        EXPECT_EQ(basic::errorOf([&] { writer.insert(row); }), entry.error) << "column " << entry.column;
     }
     writer.flush();
     EXPECT_TRUE(m_database.rows("Types").empty());

@@ -2,9 +2,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "platform/basic/RuntimeError.h"
 #include "platform/jet/TableWriter.h"
+#include "tests/platform/basic/ErrorOf.h"
 #include "tests/platform/jet/CrashStates.h"
 #include "tests/platform/jet/EmptyingScenario.h"
-#include "tests/platform/jet/ErrorNumberOf.h"
 #include "tests/platform/jet/StoredDefinition.h"
 #include "tests/platform/jet/WrittenDatabase.h"
 
@@ -34,7 +34,7 @@ bool switchesInOneSector(const TableDefinition& log) {
 
 bool isSound(const FileImage& image) {
     share::MemoryFile file(image);
-    return errorNumberOf([&] { checkDatabase(file); }) == 0;
+    return basic::errorOf([&] { checkDatabase(file); }) == 0;
 }
 
 class CrashWhileEmptying {
@@ -93,7 +93,7 @@ private:
         const std::size_t rows = readRows(file, kLog).size();
         addCall(file, "after the crash", 5000);
         EXPECT_EQ(readRows(file, kLog).size(), rows + 1);
-        EXPECT_EQ(errorNumberOf([&] { checkDatabase(file); }), 0);
+        EXPECT_EQ(basic::errorOf([&] { checkDatabase(file); }), 0);
     }
 
     void checkDelete(const FileImage& image) const {
@@ -102,7 +102,7 @@ private:
         EXPECT_TRUE(readRows(file, kLog).empty());
         EXPECT_EQ(storedCount(file, kLog), 0U);
         EXPECT_EQ(readRows(file, "MailboxInfo"), m_others);
-        EXPECT_EQ(errorNumberOf([&] { checkDatabase(file); }), 0);
+        EXPECT_EQ(basic::errorOf([&] { checkDatabase(file); }), 0);
         checkInsert(file.bytes());
     }
 

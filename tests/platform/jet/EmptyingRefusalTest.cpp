@@ -6,8 +6,8 @@
 #include "platform/jet/ByteEditor.h"
 #include "platform/jet/TableEmptier.h"
 #include "platform/jet/TableWriter.h"
+#include "tests/platform/basic/ErrorOf.h"
 #include "tests/platform/jet/EmptyingScenario.h"
-#include "tests/platform/jet/ErrorNumberOf.h"
 #include "tests/platform/jet/StoredDefinition.h"
 
 #include <gtest/gtest.h>
@@ -28,7 +28,7 @@ TEST(TableEmptier, RefusesTheParentOfARelationship) {
     bytes.put8(block + format::logicalIndex::kType, format::logicalIndex::kForeignKey);
     bytes.put8(block + format::logicalIndex::kRole, format::logicalIndex::kParent);
     share::MemoryFile related(image);
-    EXPECT_EQ(errorNumberOf([&] { TableEmptier(related, kLog); }), basic::kProviderFailure);
+    EXPECT_EQ(basic::errorOf([&] { TableEmptier(related, kLog); }), basic::kProviderFailure);
     EXPECT_EQ(related.bytes(), image);
     bytes.put8(block + format::logicalIndex::kRole, format::logicalIndex::kChild);
     share::MemoryFile child(image);
@@ -37,15 +37,15 @@ TEST(TableEmptier, RefusesTheParentOfARelationship) {
 
 TEST(TableEmptier, RefusesSystemTablesAndUnknownOnes) {
     share::MemoryFile file(callLogDatabase(1));
-    EXPECT_EQ(errorNumberOf([&] { TableEmptier(file, "MSysObjects"); }), basic::kProviderReadOnly);
-    EXPECT_EQ(errorNumberOf([&] { TableEmptier(file, "Nothing"); }), basic::kProviderNoTable);
+    EXPECT_EQ(basic::errorOf([&] { TableEmptier(file, "MSysObjects"); }), basic::kProviderReadOnly);
+    EXPECT_EQ(basic::errorOf([&] { TableEmptier(file, "Nothing"); }), basic::kProviderNoTable);
 }
 
 TEST(TableEmptier, RefusesAnEncodedDatabase) {
     FileImage image = callLogDatabase(1);
     image[format::header::kDatabaseKey] ^= std::byte{1}; // of what is masked there
     share::MemoryFile file(image);
-    EXPECT_EQ(errorNumberOf([&] { TableEmptier(file, kLog); }), basic::kProviderReadOnly);
+    EXPECT_EQ(basic::errorOf([&] { TableEmptier(file, kLog); }), basic::kProviderReadOnly);
     EXPECT_EQ(file.bytes(), image);
 }
 
@@ -56,7 +56,7 @@ TEST_P(RefusedCommitWord, KeepsTheDatabaseAsItIs) {
     FileImage image = whole.bytes();
     ByteEditor(image).put16(format::commitWords::kOffset + 14, GetParam());
     share::MemoryFile file(image);
-    EXPECT_EQ(errorNumberOf([&] { TableEmptier(file, kLog); }), basic::kProviderFailure);
+    EXPECT_EQ(basic::errorOf([&] { TableEmptier(file, kLog); }), basic::kProviderFailure);
 }
 
 INSTANTIATE_TEST_SUITE_P(Words, RefusedCommitWord,
@@ -82,7 +82,7 @@ protected:
     }
     void expectRefused() {
         const FileImage before = m_file.bytes();
-        EXPECT_EQ(errorNumberOf([&] { TableEmptier(m_file, kLog); }), basic::kProviderFailure);
+        EXPECT_EQ(basic::errorOf([&] { TableEmptier(m_file, kLog); }), basic::kProviderFailure);
         EXPECT_EQ(m_file.bytes(), before);
     }
 
@@ -113,7 +113,7 @@ TEST_F(DamagedTable, IsRefusedWhenItsPageIsMarkedFree) {
 TEST_F(DamagedTable, IsRefusedWhenItsDefinitionIsMarkedFree) {
     markFree(m_log.page());
     const FileImage before = m_file.bytes();
-    EXPECT_EQ(errorNumberOf([&] { emptyLog(m_file); }), basic::kProviderFailure);
+    EXPECT_EQ(basic::errorOf([&] { emptyLog(m_file); }), basic::kProviderFailure);
     EXPECT_EQ(m_file.bytes(), before);
 }
 
@@ -126,7 +126,7 @@ TEST(TableEmptier, RefusesToTakeAPageThatIsWronglyMarkedFree) {
     allocator.release(used);
     cache.flush();
     const FileImage before = file.bytes();
-    EXPECT_EQ(errorNumberOf([&] { emptyLog(file); }), basic::kProviderFailure);
+    EXPECT_EQ(basic::errorOf([&] { emptyLog(file); }), basic::kProviderFailure);
     EXPECT_EQ(file.bytes(), before);
 }
 

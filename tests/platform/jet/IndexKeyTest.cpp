@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "platform/jet/IndexKey.h"
 
-#include "tests/platform/jet/ErrorNumberOf.h"
+#include "tests/platform/basic/ErrorOf.h"
 
 #include <gtest/gtest.h>
 
@@ -11,7 +11,7 @@
 namespace jet {
 namespace {
 
-using test::errorNumberOf;
+using basic::errorOf;
 
 Column columnOf(ColumnType type) {
     Column column;
@@ -89,16 +89,15 @@ TEST(IndexKey, TextIgnoresCaseAndTrailingBlanks) {
 }
 
 TEST(IndexKey, WhatIsNotKnownIsRefused) {
-    EXPECT_EQ(errorNumberOf([] { key(ColumnType::Text, std::string("Ä")); }), basic::kProviderFailure);
-    EXPECT_EQ(errorNumberOf([] { key(ColumnType::Text, std::string("a-b")); }), basic::kProviderFailure);
-    EXPECT_EQ(errorNumberOf([] { key(ColumnType::Guid, basic::Guid{}); }), basic::kProviderFailure);
-    EXPECT_EQ(errorNumberOf([] { key(ColumnType::Numeric, basic::Decimal{}); }), basic::kProviderFailure);
-    EXPECT_EQ(errorNumberOf([] { key(ColumnType::Binary, basic::Binary{}); }), basic::kProviderFailure);
+    EXPECT_EQ(errorOf([] { key(ColumnType::Text, std::string("Ä")); }), basic::kProviderFailure);
+    EXPECT_EQ(errorOf([] { key(ColumnType::Text, std::string("a-b")); }), basic::kProviderFailure);
+    EXPECT_EQ(errorOf([] { key(ColumnType::Guid, basic::Guid{}); }), basic::kProviderFailure);
+    EXPECT_EQ(errorOf([] { key(ColumnType::Numeric, basic::Decimal{}); }), basic::kProviderFailure);
+    EXPECT_EQ(errorOf([] { key(ColumnType::Binary, basic::Binary{}); }), basic::kProviderFailure);
     Column other = columnOf(ColumnType::Text);
     other.sortVersion = 1;
     KeyBytes bytes;
-    EXPECT_EQ(errorNumberOf([&] { appendKeyPart(bytes, std::string("a"), other, true); }),
-              basic::kProviderFailure);
+    EXPECT_EQ(errorOf([&] { appendKeyPart(bytes, std::string("a"), other, true); }), basic::kProviderFailure);
 }
 
 } // namespace

@@ -6,7 +6,7 @@
 #include "platform/jet/IndexPage.h"
 #include "platform/jet/PageReader.h"
 #include "platform/share/MemoryFile.h"
-#include "tests/platform/jet/ErrorNumberOf.h"
+#include "tests/platform/basic/ErrorOf.h"
 #include "tests/platform/jet/StoredDefinition.h"
 #include "tests/platform/jet/WrittenDatabase.h"
 
@@ -170,7 +170,7 @@ TEST_F(IndexTreeTest, KeyThatBreaksALongCommonStartIsCutOffAlone) {
 }
 
 TEST_F(IndexTreeTest, RefusesAKeyThatIsTooLong) {
-    EXPECT_EQ(errorNumberOf([&] { insert({KeyBytes(800, 'x')}); }), basic::kProviderFailure);
+    EXPECT_EQ(basic::errorOf([&] { insert({KeyBytes(800, 'x')}); }), basic::kProviderFailure);
     EXPECT_NO_THROW(insert({KeyBytes(700, 'x')}));
 }
 

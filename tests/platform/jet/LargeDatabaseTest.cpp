@@ -6,7 +6,7 @@
 #include "platform/jet/TableWriter.h"
 #include "platform/jet/UsageMap.h"
 #include "platform/share/MemoryFile.h"
-#include "tests/platform/jet/ErrorNumberOf.h"
+#include "tests/platform/basic/ErrorOf.h"
 #include "tests/platform/jet/WrittenDatabase.h"
 
 #include <gtest/gtest.h>
@@ -126,7 +126,7 @@ TEST_F(LargeDatabase, RowTooLongForAPageIsRefusedAndShortObjectsLeaveALongRow) {
     TableWriter writer(m_file, "Long");
     writer.insert(row);
     row[63] = row[64] = row[65] = row[66] = std::string(255, 'x');
-    EXPECT_EQ(errorNumberOf([&] { writer.insert(row); }), basic::kProviderFailure);
+    EXPECT_EQ(basic::errorOf([&] { writer.insert(row); }), basic::kProviderFailure);
     writer.flush();
     row[63] = row[64] = row[65] = row[66] = std::string();
     EXPECT_EQ(readRows(m_file, "Long"), std::vector<Values>{row});
@@ -137,7 +137,7 @@ TEST_F(LargeDatabase, FileThatIsCutShortIsNotWritten) {
     std::vector<std::byte> bytes = m_file.bytes();
     bytes.resize(bytes.size() - 100);
     share::MemoryFile cut(bytes);
-    EXPECT_EQ(errorNumberOf([&] { TableWriter(cut, "A"); }), basic::kProviderFailure);
+    EXPECT_EQ(basic::errorOf([&] { TableWriter(cut, "A"); }), basic::kProviderFailure);
     EXPECT_EQ(cut.bytes(), bytes);
 }
 

@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "platform/jet/ReadGuard.h"
 
-#include "tests/platform/jet/ErrorNumberOf.h"
+#include "tests/platform/basic/ErrorOf.h"
 #include "tests/platform/jet/FailureOf.h"
 #include "tests/platform/jet/Images.h"
 #include "tests/platform/jet/MemoryFile.h"
@@ -143,7 +143,7 @@ TEST_F(ReadConsistently, FileThatIsLostWithItsConnectionIsOpenedAnew) {
 }
 
 TEST_F(ReadConsistently, ConnectionThatIsLostAtEveryTryIsToldAsAnErrorOfTheDevice) {
-    EXPECT_EQ(test::errorNumberOf([this] {
+    EXPECT_EQ(basic::errorOf([this] {
                   run([this]() -> int {
                       ++calls;
                       throw share::ConnectionLost("gone");

@@ -5,14 +5,14 @@
 #include "platform/jet/FieldEncoder.h"
 #include "platform/jet/TableDefinitionBuilder.h"
 #include "platform/jet/TextEncoder.h"
-#include "tests/platform/jet/ErrorNumberOf.h"
+#include "tests/platform/basic/ErrorOf.h"
 
 #include <gtest/gtest.h>
 
 namespace jet {
 namespace {
 
-using test::errorNumberOf;
+using basic::errorOf;
 
 std::vector<unsigned> numbers(const Bytes& bytes) {
     std::vector<unsigned> result;
@@ -61,7 +61,7 @@ TEST(RowEncoder, RefusesARowThatNoPageHolds) {
     fields[7].stored = Bytes(format::dataPage::kMaxRow - overhead - std::size_t{7 * 504});
     EXPECT_EQ(RowEncoder(table).encode(fields).size(), format::dataPage::kMaxRow);
     fields[7].stored->push_back({});
-    EXPECT_EQ(errorNumberOf([&] { RowEncoder(table).encode(fields); }), basic::kProviderFailure);
+    EXPECT_EQ(errorOf([&] { RowEncoder(table).encode(fields); }), basic::kProviderFailure);
 }
 
 TEST(TextEncoder, CompressesOnlyWhatReadsBackTheSame) {
@@ -77,8 +77,8 @@ TEST(TextEncoder, CompressesOnlyWhatReadsBackTheSame) {
 }
 
 TEST(TextEncoder, RefusesWhatWouldReadBackAsSomethingElse) {
-    EXPECT_EQ(errorNumberOf([] { encodeText(u"\uFEFFabc", false); }), basic::kInvalidProcedureCall);
-    EXPECT_EQ(errorNumberOf([] { toStoredUnits("a\xC3"); }), basic::kInvalidProcedureCall);
+    EXPECT_EQ(errorOf([] { encodeText(u"\uFEFFabc", false); }), basic::kInvalidProcedureCall);
+    EXPECT_EQ(errorOf([] { toStoredUnits("a\xC3"); }), basic::kInvalidProcedureCall);
 }
 
 } // namespace

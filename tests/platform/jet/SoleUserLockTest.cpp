@@ -5,7 +5,7 @@
 #include "platform/jet/CommitWordWriter.h"
 #include "platform/jet/CommitWords.h"
 #include "platform/share/MemoryFile.h"
-#include "tests/platform/jet/ErrorNumberOf.h"
+#include "tests/platform/basic/ErrorOf.h"
 #include "tests/platform/jet/WrittenDatabase.h"
 
 #include <gtest/gtest.h>
@@ -62,7 +62,7 @@ TEST(CommitWordWriter, CountsUpAndNeverSaysThatItIsWriting) {
     file.write(format::commitWords::kOffset + 2, std::vector<std::byte>(2, std::byte{0xFF}));
     advanceCommitWord(file, 1);
     EXPECT_EQ(CommitWords::read(file).words[1], 0x0100);
-    EXPECT_EQ(errorNumberOf([&] { advanceCommitWord(file, 256); }), basic::kSubscriptOutOfRange);
+    EXPECT_EQ(basic::errorOf([&] { advanceCommitWord(file, 256); }), basic::kSubscriptOutOfRange);
 }
 
 } // namespace

@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "platform/jet/TableDefinitionBuilder.h"
 
-#include "tests/platform/jet/ErrorNumberOf.h"
+#include "tests/platform/basic/ErrorOf.h"
 #include "tests/platform/jet/StoredDefinition.h"
 #include "tests/platform/jet/WrittenDatabase.h"
 
@@ -49,16 +49,16 @@ TEST(TableDefinitionBuilder, RefusesWhatADefinitionCannotHold) {
         withIndex({.name = "I", .columns = std::vector<IndexColumnSpec>(11, {"A"})}),
         withIndex({.name = "", .columns = {{"A"}}})};
     for (std::size_t i = 0; i < specs.size(); ++i)
-        EXPECT_EQ(errorNumberOf([&] { defineTable(specs[i]); }), basic::kProviderSyntax) << i;
+        EXPECT_EQ(basic::errorOf([&] { defineTable(specs[i]); }), basic::kProviderSyntax) << i;
 }
 
 TEST(TableDefinitionBuilder, RefusesTwoIndexesOfOneNameAndTwoPrimaryKeys) {
     TableSpec spec = withIndex({.name = "I", .columns = {{"A"}}});
     spec.indexes.push_back({.name = "i", .columns = {{"A"}}});
-    EXPECT_EQ(errorNumberOf([&] { defineTable(spec); }), basic::kProviderSyntax);
+    EXPECT_EQ(basic::errorOf([&] { defineTable(spec); }), basic::kProviderSyntax);
     spec.indexes[1] = {.name = "J", .columns = {{"A"}}, .primaryKey = true};
     spec.indexes[0].primaryKey = true;
-    EXPECT_EQ(errorNumberOf([&] { defineTable(spec); }), basic::kProviderSyntax);
+    EXPECT_EQ(basic::errorOf([&] { defineTable(spec); }), basic::kProviderSyntax);
 }
 
 TEST(TableDefinitionBuilder, IndexFlagsAreThoseOfTheEngine) {
@@ -77,9 +77,9 @@ TEST(CreateTable, RefusesANameThatIsThereWithoutCase) {
     database.createTable(oneColumn({.name = "A"}));
     TableSpec again = oneColumn({.name = "A"});
     again.name = "t";
-    EXPECT_EQ(errorNumberOf([&] { database.createTable(again); }), basic::kProviderIntegrity);
+    EXPECT_EQ(basic::errorOf([&] { database.createTable(again); }), basic::kProviderIntegrity);
     again.name = "msysobjects";
-    EXPECT_EQ(errorNumberOf([&] { database.createTable(again); }), basic::kProviderIntegrity);
+    EXPECT_EQ(basic::errorOf([&] { database.createTable(again); }), basic::kProviderIntegrity);
     EXPECT_EQ(database.tool("mdb-tables", "-1"), "T\n");
 }
 
@@ -87,7 +87,7 @@ TEST(CreateTable, RefusesANameTheCatalogCannotIndex) {
     WrittenDatabase database;
     TableSpec spec = oneColumn({.name = "A"});
     spec.name = "Anrufe-Büro";
-    EXPECT_EQ(errorNumberOf([&] { database.createTable(spec); }), basic::kProviderFailure);
+    EXPECT_EQ(basic::errorOf([&] { database.createTable(spec); }), basic::kProviderFailure);
     EXPECT_NO_THROW(checkDatabase(database.file()));
 }
 
@@ -95,9 +95,9 @@ TEST(CreateTable, RefusesAFileThatIsNoDatabase) {
     TemporaryFolder folder;
     const auto file = share::LocalFile::open(folder.path("x"), share::OpenMode::Create);
     file->write(0, std::vector<std::byte>(3 * format::page::kSize));
-    EXPECT_EQ(errorNumberOf([&] { createTable(*file, oneColumn({.name = "A"}), kCreated); }),
+    EXPECT_EQ(basic::errorOf([&] { createTable(*file, oneColumn({.name = "A"}), kCreated); }),
               basic::kProviderFailure);
-    EXPECT_EQ(errorNumberOf([&] { createDatabase(*file, kCreated); }), basic::kProviderFailure);
+    EXPECT_EQ(basic::errorOf([&] { createDatabase(*file, kCreated); }), basic::kProviderFailure);
 }
 
 class WideTable : public testing::Test {

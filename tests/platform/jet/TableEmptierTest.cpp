@@ -5,8 +5,8 @@
 #include "platform/basic/RuntimeError.h"
 #include "platform/jet/ByteEditor.h"
 #include "platform/jet/TableWriter.h"
+#include "tests/platform/basic/ErrorOf.h"
 #include "tests/platform/jet/EmptyingScenario.h"
-#include "tests/platform/jet/ErrorNumberOf.h"
 #include "tests/platform/jet/StoredDefinition.h"
 #include "tests/platform/jet/WrittenDatabase.h"
 
@@ -52,7 +52,7 @@ TEST(TableEmptier, UniqueKeysCanBeUsedAgain) {
     share::MemoryFile file(callLogDatabase(7));
     emptyLog(file);
     EXPECT_NO_THROW(addCall(file, "K3"));
-    EXPECT_EQ(errorNumberOf([&] { addCall(file, "K3"); }), basic::kProviderIntegrity);
+    EXPECT_EQ(basic::errorOf([&] { addCall(file, "K3"); }), basic::kProviderIntegrity);
 }
 
 TEST(TableEmptier, LeavesEveryPageOfOthersByteForByte) {

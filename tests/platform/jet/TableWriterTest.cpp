@@ -4,7 +4,7 @@
 
 #include "platform/basic/RuntimeError.h"
 #include "platform/share/MemoryFile.h"
-#include "tests/platform/jet/ErrorNumberOf.h"
+#include "tests/platform/basic/ErrorOf.h"
 #include "tests/platform/jet/WrittenDatabase.h"
 #include "tools/demo/CallLogTable.h"
 
@@ -73,7 +73,7 @@ TEST_F(CallLogWriter, WritesNothingBeforeFlush) {
 TEST_F(CallLogWriter, RefusesASecondRowOfTheSameCallWithoutCase) {
     m_database.insert("CallLog", {call("Ab1")});
     TableWriter writer(m_database.file(), "CallLog");
-    EXPECT_EQ(errorNumberOf([&] { writer.insert(call("aB1")); }), basic::kProviderIntegrity);
+    EXPECT_EQ(basic::errorOf([&] { writer.insert(call("aB1")); }), basic::kProviderIntegrity);
     EXPECT_EQ(writer.insert(call("Ab2")), 2) << "a refused row takes no number and leaves the writer usable";
     writer.flush();
     EXPECT_EQ(m_database.rows("CallLog").size(), 2U);
@@ -82,7 +82,7 @@ TEST_F(CallLogWriter, RefusesASecondRowOfTheSameCallWithoutCase) {
 
 TEST_F(CallLogWriter, RefusesAnIndexedTextWhoseKeyIsNotKnown) {
     TableWriter writer(m_database.file(), "CallLog");
-    EXPECT_EQ(errorNumberOf([&] { writer.insert(call("Äpfel")); }), basic::kProviderFailure);
+    EXPECT_EQ(basic::errorOf([&] { writer.insert(call("Äpfel")); }), basic::kProviderFailure);
     writer.insert(call("Apfel"));
     EXPECT_NO_THROW(writer.flush());
 }
@@ -97,22 +97,22 @@ TEST_F(CallLogWriter, UniqueIndexTakesAnyNumberOfNulls) {
 
 TEST_F(CallLogWriter, RefusesARowOfTheWrongLength) {
     TableWriter writer(m_database.file(), "CallLog");
-    EXPECT_EQ(errorNumberOf([&] { writer.insert(Values{Null{}}); }), basic::kInvalidProcedureCall);
+    EXPECT_EQ(basic::errorOf([&] { writer.insert(Values{Null{}}); }), basic::kInvalidProcedureCall);
 }
 
 TEST_F(CallLogWriter, RefusesTextThatIsTooLongForItsColumn) {
     TableWriter writer(m_database.file(), "CallLog");
-    EXPECT_EQ(errorNumberOf([&] { writer.insert(call(std::string(51, 'A'))); }), basic::kProviderFailure);
+    EXPECT_EQ(basic::errorOf([&] { writer.insert(call(std::string(51, 'A'))); }), basic::kProviderFailure);
     EXPECT_NO_THROW(writer.insert(call(std::string(50, 'A'))));
 }
 
 TEST_F(CallLogWriter, UnknownTableIsRefused) {
-    EXPECT_EQ(errorNumberOf([&] { TableWriter(m_database.file(), "Calls"); }), basic::kProviderNoTable);
+    EXPECT_EQ(basic::errorOf([&] { TableWriter(m_database.file(), "Calls"); }), basic::kProviderNoTable);
 }
 
 TEST_F(CallLogWriter, DatabaseThatIsBeingWrittenIsRefused) {
     m_database.file().write(format::commitWords::kOffset + 4, std::vector<std::byte>(2));
-    EXPECT_EQ(errorNumberOf([&] { TableWriter(m_database.file(), "CallLog"); }), basic::kProviderFailure);
+    EXPECT_EQ(basic::errorOf([&] { TableWriter(m_database.file(), "CallLog"); }), basic::kProviderFailure);
 }
 
 TEST_F(CallLogWriter, TextsOfEveryScriptReadBackAndAreTheSameToOtherPrograms) {

@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "platform/jet/TableWriter.h"
 #include "platform/share/MemoryFile.h"
-#include "tests/platform/jet/ErrorNumberOf.h"
+#include "tests/platform/basic/ErrorOf.h"
 #include "tests/platform/jet/StoredDefinition.h"
 #include "tests/platform/jet/WrittenDatabase.h"
 #include "tools/demo/CallLogTable.h"
@@ -114,7 +114,7 @@ TEST(WriteOrder, NoNumberIsHandedOutTwiceWhateverWriteFails) {
     for (std::size_t failAt = 1; failAt <= counter.pages.size(); ++failAt) {
         share::MemoryFile memory{before};
         FailingFile file(memory, failAt);
-        EXPECT_EQ(errorNumberOf([&] { appendRows(file); }), basic::kDiskFull);
+        EXPECT_EQ(basic::errorOf([&] { appendRows(file); }), basic::kDiskFull);
         std::int32_t highest = 0;
         for (const Values& row : readRows(memory, "CallLog"))
             highest = std::max(highest, std::get<std::int32_t>(row[0]));
@@ -136,7 +136,7 @@ TEST(WriteOrder, FailureAtAnyWriteLeavesEveryOldRow) {
     for (std::size_t failAt = 1; failAt <= counter.pages.size(); ++failAt) {
         share::MemoryFile memory{before};
         FailingFile file(memory, failAt);
-        EXPECT_EQ(errorNumberOf([&] { appendRows(file); }), basic::kDiskFull);
+        EXPECT_EQ(basic::errorOf([&] { appendRows(file); }), basic::kDiskFull);
         ASSERT_EQ(storedCount(memory, "CallLog"), std::uint32_t{kOldRows}) << failAt;
         std::vector<Values> rows = readRows(memory, "CallLog");
         ASSERT_LE(rows.size(), kOldRows + 40U) << failAt;
@@ -150,9 +150,9 @@ TEST(WriteOrder, WriterRefusesEverythingAfterAFailure) {
     FailingFile file(memory, 3);
     TableWriter writer(file, "CallLog");
     writer.insert(call(400, 10));
-    EXPECT_EQ(errorNumberOf([&] { writer.flush(); }), basic::kDiskFull);
-    EXPECT_EQ(errorNumberOf([&] { writer.insert(call(401, 10)); }), basic::kProviderFailure);
-    EXPECT_EQ(errorNumberOf([&] { writer.flush(); }), basic::kProviderFailure);
+    EXPECT_EQ(basic::errorOf([&] { writer.flush(); }), basic::kDiskFull);
+    EXPECT_EQ(basic::errorOf([&] { writer.insert(call(401, 10)); }), basic::kProviderFailure);
+    EXPECT_EQ(basic::errorOf([&] { writer.flush(); }), basic::kProviderFailure);
 }
 
 TEST(WriteOrder, FailureWhileATableIsMadeLeavesTheCatalogAsItWas) {
@@ -165,7 +165,7 @@ TEST(WriteOrder, FailureWhileATableIsMadeLeavesTheCatalogAsItWas) {
     for (std::size_t failAt = 1; failAt <= writes; ++failAt) {
         share::MemoryFile memory{before};
         FailingFile file(memory, failAt);
-        ASSERT_EQ(errorNumberOf([&] { createTable(file, demo::callLogTable(), kCreated); }),
+        ASSERT_EQ(basic::errorOf([&] { createTable(file, demo::callLogTable(), kCreated); }),
                   basic::kDiskFull);
         PageReader pages(memory, 0);
         const std::size_t tables = Catalog(pages).userTables().size();
@@ -192,7 +192,7 @@ TEST(WriteOrder, ReaderBesideAWriterNeverSeesATornCount) {
         std::uint32_t count = 0;
         std::size_t rows = 0;
         // An error is what a reader may meet when the file grows under it; a wrong number is not.
-        if (errorNumberOf([&] {
+        if (basic::errorOf([&] {
                 count = storedCount(*file, "CallLog");
                 rows = readRows(*file, "CallLog").size();
             }) != 0)

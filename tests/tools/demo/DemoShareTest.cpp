@@ -5,7 +5,7 @@
 #include "platform/jet/CommitWords.h"
 #include "platform/jet/SoleUserLock.h"
 #include "platform/share/MemoryFile.h"
-#include "tests/platform/jet/ErrorNumberOf.h"
+#include "tests/platform/basic/ErrorOf.h"
 #include "tests/platform/jet/WrittenDatabase.h"
 #include "tools/demo/BenchDatabase.h"
 #include "tools/demo/DemoMailbox.h"
@@ -91,7 +91,7 @@ TEST_F(DemoShareTest, CallsAscendInTimeAndShowEveryCase) {
 
 TEST_F(DemoShareTest, FolderThatHasAMailboxIsLeftAlone) {
     std::filesystem::remove_all(mailboxFolder(m_share, 12));
-    EXPECT_EQ(errorNumberOf([&] { createDemoShare(m_share, kNow); }), basic::kPathFileAccess);
+    EXPECT_EQ(basic::errorOf([&] { createDemoShare(m_share, kNow); }), basic::kPathFileAccess);
     EXPECT_FALSE(std::filesystem::exists(mailboxFolder(m_share, 12)));
     EXPECT_EQ(readRows(*open(15), "CallLog").size(), 15U);
 }
@@ -111,7 +111,7 @@ TEST_F(DemoShareTest, FailedAppendListsNoCall) {
     const Call call = DemoCalls(1).make(kNow, 9);
     const DemoMailbox mailbox(mailboxFolder(m_share, 12));
     mailbox.append(std::span(&call, 1));
-    EXPECT_EQ(errorNumberOf([&] { mailbox.append(std::span(&call, 1)); }), basic::kProviderIntegrity);
+    EXPECT_EQ(basic::errorOf([&] { mailbox.append(std::span(&call, 1)); }), basic::kProviderIntegrity);
     EXPECT_EQ(readRows(*open(12), "CallLog").size(), 13U);
 }
 
