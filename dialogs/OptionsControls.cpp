@@ -62,6 +62,7 @@ void OptionsControls::addFields(QWidget& page) {
     txtServer->setReadOnly(true);
     Label1->setBuddy(txtServer);
     cmdServer = named(new QPushButton(QStringLiteral("...")), "cmdServer");
+    cmdServer->setMaximumWidth(2 * cmdServer->sizeHint().height()); // styles make buttons as wide as a word
     grid->addWidget(Label1, 0, 0);
     grid->addWidget(txtServer, 0, 1, 1, 2);
     grid->addWidget(cmdServer, 0, 3);
