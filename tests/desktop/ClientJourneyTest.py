@@ -121,7 +121,7 @@ class JourneyTest(SceneTest):
         self.client.hide()
         run('qmdemo', self.share, '--mailbox', self.first, '--calls', 1, '--every', '0.001')
         self.assertEqual(self.client.wait_popup(seconds=60), self.popup)
-        popup, panel = self.client.popup_window(), self.desktop.tray.panel()
+        popup, panel = self.client.wait_popup_window(), self.desktop.tray.panel()
         self.assertLessEqual(popup.y + popup.height, panel.y)
         self.assertGreater(popup.x, self.desktop.size[0] // 2)
         self.assertIsNone(self.client.window())

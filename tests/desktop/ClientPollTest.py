@@ -31,9 +31,9 @@ class PollTest(SceneTest):
         client = self.start({FIRST: 12})
         self.add_calls(FIRST, 3)
         client.wait_popup(3)
-        place = client.popup_window().rect
-        self.desktop.run(['xdotool', 'windowmove', client.popup_window().id, 100, 100])
-        self.desktop.wait_for(lambda: client.popup_window().rect == place,
+        place = client.wait_popup_window().rect
+        self.desktop.run(['xdotool', 'windowmove', client.wait_popup_window().id, 100, 100])
+        self.desktop.wait_for(lambda: client.wait_popup_window().rect == place,
                               'the popup to be back in its corner')
         self.assertEqual(client.popup_text(), 'You have  3  new calls')
 
@@ -117,7 +117,7 @@ class PollTest(SceneTest):
 
     @staticmethod
     def corner(client):
-        x, y, width, height = client.popup_window().rect
+        x, y, width, height = client.wait_popup_window().rect
         return x + width, y + height
 
     def test_the_popup_survives_the_panel(self):

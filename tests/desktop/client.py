@@ -174,6 +174,10 @@ class Client:
                    if w.pid == self.process.pid and not re.search(TITLE, w.title) and not w.unmanaged]
         return windows[0] if windows else None
 
+    def wait_popup_window(self):
+        """A screen reader may hear of the popup before the X server has its window."""
+        return wait_until(self.popup_window, 'the popup')
+
     def wait_popup(self, number=None, seconds=15):
         """Until it is up, and announces that many calls if a number is told; gives its text."""
         def announced():
@@ -190,8 +194,7 @@ class Client:
         found = [o for role in roles for o in self._objects(role, name, showing=True)]
         if len(found) != 1:
             raise DesktopError(f'{len(found)} links {name!r} instead of one')
-        window = wait_until(self.popup_window, 'the popup')
-        self.desktop.click_object(found[0], window)
+        self.desktop.click_object(found[0], self.wait_popup_window())
 
     # Error dialogs
 
