@@ -83,13 +83,14 @@ class Client:
     def window(self):
         return self.desktop.windows.find(TITLE)
 
-    # List: it can be read once the window was shown, hidden or not
-
-    def _objects(self, role, name=None, showing=False):
+    def objects(self, role, name=None, showing=False):
+        """What a screen reader finds of it."""
         return self.desktop.objects(self.process, role, name, showing)
 
+    # List: it can be read once the window was shown, hidden or not
+
     def _list(self):
-        tables = [o for role in ('table', 'tree', 'tree table') for o in self._objects(role)]
+        tables = [o for role in ('table', 'tree', 'tree table') for o in self.objects(role)]
         if len(tables) != 1:
             raise DesktopError(f'{len(tables)} lists instead of one')
         return tables[0]['where']
@@ -109,10 +110,10 @@ class Client:
         wait_until(lambda: [''.join(row) for row in self.rows()] == [text], f'the line {text!r}', seconds)
 
     def tabs(self):
-        return [o['name'] for o in self._objects('page tab', showing=True)]
+        return [o['name'] for o in self.objects('page tab', showing=True)]
 
     def click_tab(self, name):
-        tabs = [o for o in self._objects('page tab', showing=True) if o['name'] == name]
+        tabs = [o for o in self.objects('page tab', showing=True) if o['name'] == name]
         if len(tabs) != 1:
             raise DesktopError(f'{len(tabs)} tabs {name!r} instead of one')
         self.desktop.click_object(tabs[0], self.window())
@@ -134,7 +135,7 @@ class Client:
 
     def position(self):
         """The player's percentage and what a screen reader says of it."""
-        sliders = self._objects('slider', '^Position$')
+        sliders = self.objects('slider', '^Position$')
         if len(sliders) != 1:
             raise DesktopError(f'{len(sliders)} players instead of one')
         value, least, greatest, spoken = self.desktop.reader().ask('value', where=sliders[0]['where'])
@@ -147,7 +148,7 @@ class Client:
 
     def seek(self, fraction):
         """A click on the player's track."""
-        track = self._objects('slider', '^Position$', showing=True)[0]['where']
+        track = self.objects('slider', '^Position$', showing=True)[0]['where']
         x, y, width, height = self.desktop.reader().ask('rect', where=track)
         window = self.window()
         self.desktop.click(window.x + x + width * fraction, window.y + y + height // 2)
@@ -157,7 +158,7 @@ class Client:
 
     def press(self, button):
         """A button of the status band by the name that is heard."""
-        found = self._objects('push button', button, showing=True)
+        found = self.objects('push button', button, showing=True)
         if len(found) != 1:
             raise DesktopError(f'{len(found)} buttons {button!r} instead of one')
         self.desktop.click_object(found[0], self.window())
@@ -165,7 +166,7 @@ class Client:
     # Popup
 
     def popup_text(self):
-        found = self._objects('label', POPUP, showing=True)
+        found = self.objects('label', POPUP, showing=True)
         return found[0]['name'] if found else None
 
     def popup_window(self):
@@ -188,13 +189,17 @@ class Client:
     def wait_no_popup(self):
         wait_until(lambda: not self.popup_window(), 'the popup to hide')
 
-    def click_link(self, name):
-        """One of the popup's links, with the mouse."""
+    def link(self, name):
+        """One of the popup's links, as a screen reader finds it."""
         roles = ('label', 'link', 'push button', 'button')
-        found = [o for role in roles for o in self._objects(role, name, showing=True)]
+        found = [o for role in roles for o in self.objects(role, name, showing=True)]
         if len(found) != 1:
             raise DesktopError(f'{len(found)} links {name!r} instead of one')
-        self.desktop.click_object(found[0], self.wait_popup_window())
+        return found[0]
+
+    def click_link(self, name):
+        """With the mouse."""
+        self.desktop.click_object(self.link(name), self.wait_popup_window())
 
     # Error dialogs
 
@@ -203,7 +208,7 @@ class Client:
         return self.answer_error('^(Ignore|Ignorieren)$')
 
     def answer_error(self, button):
-        buttons = self._objects('push button', button, showing=True)
+        buttons = self.objects('push button', button, showing=True)
         dialogs = [w for w in self.desktop.windows.all()
                    if w.pid == self.process.pid and 'MODAL' in w.states]
         if not buttons or not dialogs:

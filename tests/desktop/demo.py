@@ -12,7 +12,6 @@ With --smb the client reaches the mailboxes through a private Samba server on th
 import argparse
 import os
 import pathlib
-import re
 import signal
 import subprocess
 import sys
@@ -22,7 +21,7 @@ sys.path.insert(0, str(pathlib.Path(__file__).resolve().parent))
 from demo_tour import Tour  # noqa: E402
 from desktop import Desktop, DesktopError, Program, die_with_parent, temporary_folder  # noqa: E402
 from samba import Samba  # noqa: E402
-from site_folder import ROOT, database, program, write_settings  # noqa: E402
+from site_folder import ROOT, count_calls, database, program, write_settings  # noqa: E402
 
 POLL_SECONDS = 5
 _FOLDERS = ('XDG_CONFIG_HOME', 'XDG_DATA_HOME', 'XDG_STATE_HOME', 'XDG_CACHE_HOME')
@@ -46,13 +45,6 @@ def make_share(folder):
     subprocess.run([program('qmdemo'), share, '--once'], check=True, stdout=subprocess.DEVNULL)
     numbers = sorted(int(entry.name) for entry in (share / 'MBX').iterdir())
     return share, {number: name for number, name in zip(numbers, ('Reception', 'Service', 'Night'))}
-
-
-def count_calls(path):
-    """By the command-line tool, not by the client."""
-    done = subprocess.run([program('qmjet'), 'count', path, 'CallLog'],
-                          capture_output=True, text=True, check=True)
-    return int(re.search('[0-9]+', done.stdout)[0])
 
 
 def headless(chosen):

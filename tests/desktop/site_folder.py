@@ -3,6 +3,8 @@
 """What a client needs around it: a folder that stands for the server's share, and the user's settings."""
 import os
 import pathlib
+import re
+import subprocess
 
 from desktop import DesktopError
 
@@ -25,6 +27,13 @@ def mailbox_folder(share, number):
 
 def database(share, number):
     return mailbox_folder(share, number) / 'qmLog.mdb'
+
+
+def count_calls(path):
+    """By the command-line tool, not by the client."""
+    done = subprocess.run([program('qmjet'), 'count', path, 'CallLog'],
+                          capture_output=True, text=True, check=True)
+    return int(re.search('[0-9]+', done.stdout)[0])
 
 
 def _text(value):

@@ -95,10 +95,10 @@ class Program:
         code = self.end(_END_SECONDS)
         return f'{self.name} ended with {code}: {self.errors()[-800:]}' if code != 0 else None
 
-    def memory_kib(self):
-        """Resident memory."""
+    def own_memory_kib(self):
+        """Resident memory without the pages of files, which come as code is first used and go as they please."""
         for line in pathlib.Path(f'/proc/{self.pid}/status').read_text().splitlines():
-            if line.startswith('VmRSS:'):
+            if line.startswith('RssAnon:'):
                 return int(line.split()[1])
         raise DesktopError(f'{self.name} has ended')
 
