@@ -36,9 +36,6 @@ class DeleteCutTest(DeleteQuestion, SceneTest):
         self.desktop.wait_for(lambda: 'ab_ToolClick' in self.log(), 'the failure to be reported', 20)
         self.assertIn('57', self.log())
 
-    def log(self):
-        return ''.join(path.read_text(errors='replace') for path in self.desktop.folder.rglob('qmClient.log'))
-
     def answer(self, button):
         self.desktop.wait_for(lambda: self.client.answer_error(button), 'the error dialog', 20)
 

@@ -66,7 +66,7 @@ class DeletePlayingTest(DeleteQuestion, PlayScene):
         self.assertEqual(self.open_messages(), [])
         self.assertEqual(self.calls_by_mdbtools(self.number), [])
         self.assertEqual(self.messages(self.numbers[1]), others)
-        self.assertEqual(list(self.desktop.folder.rglob('qmClient.log')), [])
+        self.assertEqual(self.log(), '')
         self.assertEqual(self.desktop.windows.active().title, self.client.window().title)
 
 

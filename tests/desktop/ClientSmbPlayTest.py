@@ -57,9 +57,6 @@ class SmbPlayTest(PlayScene):
         self.desktop.run(['convert', picture, f'rgb:{pixels}'])
         return pixels.read_bytes()
 
-    def log(self):
-        return ''.join(path.read_text(errors='replace') for path in self.desktop.folder.rglob('qmClient.log'))
-
     def test_a_message_is_heard_whole_though_the_server_dies_meanwhile(self):
         self.client = self.start_client()
         row, file = self.row_of_message()

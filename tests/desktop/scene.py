@@ -5,12 +5,14 @@ import contextlib
 import csv
 import os
 import subprocess
+import sys
 import unittest
 
 from client import Client
 from desktop import Desktop
-from site_folder import database, mailbox_folder, program, write_settings
+from site_folder import BIN, database, mailbox_folder, program, write_settings
 
+EVIDENCE = BIN.parent / 'artefacts' / 'failed'
 FIRST, SECOND = 12, 15
 _NAMES = {FIRST: 'Reception', SECOND: 'Service'}
 
@@ -28,8 +30,30 @@ class SceneTest(unittest.TestCase):
         self.addCleanup(stack.close)
         self.desktop = stack.enter_context(Desktop(self.size, lang=self.lang, tray=self.tray,
                                                    accessibility=self.accessibility))
+        self.addCleanup(self._leave_evidence, self._failures())
         self.share = self.desktop.folder / 'share'
         (self.share / 'MBX').mkdir(parents=True)
+
+    # When it fails
+
+    def run(self, result=None):
+        self._result = result
+        return super().run(result)
+
+    def _failures(self):
+        return len(self._result.errors) + len(self._result.failures)
+
+    def _leave_evidence(self, failures_before):
+        """Before the desktop goes: what its screen showed and what the client logged."""
+        if self._failures() == failures_before:
+            return
+        EVIDENCE.mkdir(parents=True, exist_ok=True)
+        print('picture:', self.desktop.screenshot(EVIDENCE / f'{self.id()}.png'), file=sys.stderr)
+        print('log:', self.log() or 'none', file=sys.stderr)
+
+    def log(self):
+        """What the client has logged, '' when it had nothing to log."""
+        return ''.join(path.read_text(errors='replace') for path in self.desktop.folder.rglob('qmClient.log'))
 
     def start(self, calls, **settings):
         """The client over mailboxes with so many calls, {number: calls}: listed, counted, its window hidden."""
