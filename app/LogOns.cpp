@@ -4,11 +4,10 @@
 
 #include "platform/basic/TextCompare.h"
 #include "platform/forms/Text.h"
+#include "platform/forms/TransientParent.h"
 #include "resources/LocalText.h"
 
-#include <QApplication>
 #include <QScopeGuard>
-#include <QWindow>
 
 #include <utility>
 
@@ -17,12 +16,6 @@ namespace {
 
 using resources::localText;
 using share::smb::Credentials;
-
-// The window in front may go while the question is open, so it is no parent.
-void standOver(QWidget& dialog, const QWidget* front) {
-    dialog.winId(); // makes the window's handle
-    dialog.windowHandle()->setTransientParent(front != nullptr ? front->windowHandle() : nullptr);
-}
 
 } // namespace
 
@@ -89,7 +82,7 @@ std::optional<LogOns::Answer> askForCredentials(const std::string& server, const
                                .ok = localText(5000, "OK"),
                                .cancel = localText(5001, "Cancel")},
                               forms::toQString(last.user), forms::toQString(last.domain), remembering);
-    standOver(dialog, QApplication::activeWindow());
+    forms::standOverTheActiveWindow(dialog);
     if (dialog.exec() != QDialog::Accepted)
         return std::nullopt;
     std::string password = forms::fromQString(dialog.password());

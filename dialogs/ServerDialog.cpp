@@ -2,24 +2,17 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "dialogs/ServerDialog.h"
 
+#include "platform/forms/TransientParent.h"
+
 #include <QLineEdit>
-#include <QWindow>
 
 namespace dialogs {
-namespace {
-
-void standOver(QWidget& dialog, const QWidget* owner) {
-    dialog.winId(); // makes the window's handle
-    dialog.windowHandle()->setTransientParent(owner != nullptr ? owner->window()->windowHandle() : nullptr);
-}
-
-} // namespace
 
 std::optional<QString> ServerDialog::select(QWidget* owner, const QString& current) {
     if (!m_form)
         m_form = std::make_unique<frmServer>(m_services);
     m_form->txtServer().setText(current);
-    standOver(*m_form, owner);
+    forms::standOver(*m_form, owner);
     m_form->exec();
     return m_form->Cancelled() ? std::nullopt : std::optional(m_form->txtServer().text());
 }

@@ -4,16 +4,15 @@
 
 #include "errors/ErrorsIgnored.h"
 #include "platform/forms/Text.h"
+#include "platform/forms/TransientParent.h"
 #include "resources/ProductData.h"
 #include "resources/StringTable.h"
 
-#include <QApplication>
 #include <QLabel>
 #include <QLayout>
 #include <QLineEdit>
 #include <QPlainTextEdit>
 #include <QPushButton>
-#include <QWindow>
 
 #include <algorithm>
 
@@ -78,18 +77,11 @@ void frmError::Init() {
         cmdDetails_Click();
 }
 
+// The window in front is another one from failure to failure.
 void frmError::showModal() {
     m_controls.cmdCancel->setFocus();
-    standOverTheActiveWindow();
+    forms::standOverTheActiveWindow(*this);
     exec();
-}
-
-// Window managers keep a dialog above the window it belongs to, and that one changes from failure to failure.
-void frmError::standOverTheActiveWindow() {
-    winId(); // makes the window's handle
-    const QWidget* active = QApplication::activeWindow();
-    const bool another = active && active->window() != this;
-    windowHandle()->setTransientParent(another ? active->window()->windowHandle() : nullptr);
 }
 
 void frmError::answerWith(const char* letter) {

@@ -52,7 +52,6 @@ private:
     void cmdDetails_Click();
     void cmdSend_Click();
     void setHeight(basic::Twips height);
-    void standOverTheActiveWindow();
 
     ErrorDialogState& m_state;
     ReportSender* m_sender;

@@ -3,8 +3,8 @@
 #include "platform/forms/QtMessageBoxes.h"
 
 #include "platform/basic/RuntimeError.h"
+#include "platform/forms/TransientParent.h"
 
-#include <QApplication>
 #include <QMessageBox>
 #include <QPushButton>
 
@@ -65,12 +65,13 @@ QtMessageBoxes::QtMessageBoxes(MessageBoxButtonTexts buttons, QString programTit
     : m_buttons(std::move(buttons)), m_programTitle(std::move(programTitle)) {}
 
 MessageBoxResult QtMessageBoxes::show(const QString& text, std::int32_t style, const QString& title) {
-    QMessageBox box(QApplication::activeWindow());
+    QMessageBox box;
     box.setTextFormat(Qt::PlainText);
     box.setText(text);
     box.setWindowTitle(title.isEmpty() ? m_programTitle : title);
     box.setIcon(iconOf(style));
     addButtons(box, style);
+    standOverTheActiveWindow(box);
     return resultOf(box.exec());
 }
 

@@ -1,9 +1,9 @@
 // SPDX-FileCopyrightText: 2026 The qmClient authors
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
-// Message boxes on the screen, owned by the window that is active when they come. Texts and titles are plain
-// text; the buttons' texts are the program's, since the toolkit's follow the system's language and the
-// packages installed. User-interface thread.
+// Message boxes on the screen, above the window that is active when they come, which may go before them.
+// Texts and titles are plain text; the buttons' texts are the program's, since the toolkit's follow the
+// system's language and the packages installed. User-interface thread.
 
 #include "platform/forms/MessageBoxes.h"
 

@@ -9,10 +9,12 @@
 #include <QPushButton>
 #include <QTest>
 #include <QTimer>
+#include <QWindow>
 
 #include <gtest/gtest.h>
 
 #include <functional>
+#include <memory>
 
 namespace forms {
 namespace {
@@ -103,13 +105,18 @@ TEST_F(QtMessageBoxesTest, MarkupIsText) {
     EXPECT_EQ(format, Qt::PlainText);
 }
 
-TEST_F(QtMessageBoxesTest, TheActiveWindowOwnsTheBox) {
-    QWidget window;
-    window.show();
-    QApplication::setActiveWindow(&window);
-    QWidget* owner = nullptr;
-    show(kOkOnly, [&](auto& box) { owner = box.parentWidget(); });
-    EXPECT_EQ(owner, &window);
+TEST_F(QtMessageBoxesTest, TheBoxStandsOverTheActiveWindowAndOutlivesIt) {
+    auto window = std::make_unique<QWidget>();
+    window->show();
+    QApplication::setActiveWindow(window.get());
+    const MessageBoxResult answer = show(kOkCancel, [&](auto& box) {
+        ASSERT_EQ(box.parentWidget(), nullptr);
+        EXPECT_EQ(box.windowHandle()->transientParent(), window->windowHandle());
+        window.reset();
+        EXPECT_TRUE(box.isVisible());
+        press(box, QStringLiteral("OK"));
+    });
+    EXPECT_EQ(answer, MessageBoxResult::Ok);
 }
 
 TEST_F(QtMessageBoxesTest, AnUnknownStyleIsRefused) {
