@@ -42,6 +42,7 @@ void ListEvents::lsCalls_MouseUp(int button, const QPoint& globalPos) {
 // No trap (frmMain, TabStrip_Click): ignores all errors.
 void ListEvents::TabStrip_Click() {
     using errors::withErrorsIgnored;
+    withErrorsIgnored([&] { m_parts.shareAccess.userActs(); });
     withErrorsIgnored([&] { m_parts.state.currentConnection.reset(); });
     withErrorsIgnored([&] { m_parts.main.LoadList(); });
     withErrorsIgnored([&] { m_parts.main.ChangeItem(); });

@@ -6,6 +6,7 @@
 
 #include "app/MainProcedures.h"
 #include "app/MainState.h"
+#include "app/ShareAccess.h"
 #include "errors/ErrorHandler.h"
 #include "platform/forms/CommandBar.h"
 #include "platform/forms/ListView.h"
@@ -25,6 +26,7 @@ public:
         forms::CommandBar& ab;
         MainState& state;
         MainProcedures& main;
+        const ShareAccess& shareAccess;
     };
 
     explicit ListEvents(Parts parts);

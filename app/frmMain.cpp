@@ -63,7 +63,8 @@ frmMain::frmMain(const MainServices& services)
                      m_state, *this}),
       m_commands({m_services, *this, m_lsCalls, m_TabStrip, m_state, *this, m_callDetails, m_ctlAudio}),
       m_alert({m_services, m_state, *this}), m_trayEvents({services.errorHandler, m_mTimer, m_state, *this}),
-      m_listEvents({services.errorHandler, m_lsCalls, m_TabStrip, m_ab, m_state, *this}),
+      m_listEvents(
+          {services.errorHandler, m_lsCalls, m_TabStrip, m_ab, m_state, *this, m_services.shareAccess}),
       m_messages(services.errorHandler, m_lsCalls, m_TabStrip), m_ctlAudio(services.player) {
     setObjectName(QStringLiteral("frmMain"));
     setWindowIcon(resources::programIcon());
@@ -88,7 +89,6 @@ void frmMain::connectEvents() {
     connect(&m_ab, &forms::CommandBar::ToolClick, this,
             [this](forms::Tool& tool) { ab_ToolClick(tool.Name()); });
     connect(&m_ctlAudio, &audio::ctlAudio::StateChanged, this, [this] { UpdateButtonStates(); });
-    connect(&m_TabStrip, &forms::TabStrip::Click, this, [this] { m_services.shareAccess.userActs(); });
     connect(&m_mTimer, &forms::Timer::ThatTime, this, [this] {
         showIfUnreachable();
         mTimer_ThatTime();

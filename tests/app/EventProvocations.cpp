@@ -131,7 +131,7 @@ const Provocation kLoadCaptions{"frmMain", "LoadCaptions", basic::kInvalidProper
 
 // What the list's and the tab strip's events need.
 struct ListWorld {
-    explicit ListWorld(Trial& trial) : events({trial, list, tabStrip, ab, state, main}) {
+    explicit ListWorld(Trial& trial) : events({trial, list, tabStrip, ab, state, main, shareAccess}) {
         trial.repair = [this] { main.failing.clear(); };
     }
 
@@ -141,6 +141,7 @@ struct ListWorld {
     forms::TabStrip tabStrip;
     MainState state;
     ScriptedMain main;
+    ShareAccess shareAccess;
     ListEvents events;
 };
 

@@ -139,11 +139,12 @@ TEST(TabStripClick, GoesOnAfterAStatementThatFails) {
     forms::ListView list;
     forms::TabStrip tabStrip;
     MainState state;
+    const ShareAccess shareAccess;
     const std::vector<std::string> statements{"LoadList", "ChangeItem", "UpdateButtonStates"};
     for (const std::string& failing : statements) {
         ScriptedMain main;
         main.failing = failing;
-        const ListEvents events({errorHandler, list, tabStrip, ab, state, main});
+        const ListEvents events({errorHandler, list, tabStrip, ab, state, main, shareAccess});
         Q_EMIT tabStrip.Click();
         for (const std::string& statement : statements)
             EXPECT_EQ(main.did(statement), statement != failing) << statement << " after " << failing;
