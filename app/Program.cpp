@@ -74,7 +74,8 @@ Program::Program(Application& application, SingleInstance& instance)
       m_shownErrors(
           errorLog(), m_clock,
           [this] { return std::make_unique<errors::frmError>(m_facts, m_errorDialogState, &m_report); }),
-      m_errorHandler(m_shownErrors), m_registry(registry::pathsFromEnvironment(), m_systemCalls),
+      m_errorHandler(m_shownErrors, [this] { m_smbServers.tryNow(); }),
+      m_registry(registry::pathsFromEnvironment(), m_systemCalls),
       m_remembered(m_keyring, [this] { passwordNotStored(); }), m_logOns(logOnServices()),
       m_smbServers(smbSurroundings(), smbAddresses()), m_folders(resolver()),
       m_servers(m_smbServers, m_waiter), m_files(resolver(), m_folders, m_servers),

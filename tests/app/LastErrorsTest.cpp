@@ -15,16 +15,28 @@ errors::ErrorAction reportedTo(errors::ErrorHandler& handler) {
 
 TEST(LastErrors, PassOnEachReportAndItsAnswer) {
     errors::RecordingErrorHandler behind{errors::ErrorAction::Retry};
-    LastErrors errors(behind);
+    LastErrors errors(behind, [] {});
     EXPECT_EQ(reportedTo(errors), errors::ErrorAction::Retry);
     ASSERT_EQ(behind.reports.size(), 1U);
     EXPECT_EQ(behind.reports[0].procedure, "LoadList");
     EXPECT_EQ(behind.reports[0].line, 40);
 }
 
+TEST(LastErrors, HaveOnlyWhatIsTriedAgainTriedNow) {
+    using errors::ErrorAction;
+    errors::RecordingErrorHandler behind{ErrorAction::Ignore, ErrorAction::Abort, ErrorAction::Retry};
+    int tries = 0;
+    LastErrors errors(behind, [&] { ++tries; });
+    reportedTo(errors);
+    reportedTo(errors);
+    EXPECT_EQ(tries, 0);
+    reportedTo(errors);
+    EXPECT_EQ(tries, 1);
+}
+
 TEST(LastErrors, AbortWithoutAWordOnceTheyFellSilent) {
     errors::RecordingErrorHandler behind{errors::ErrorAction::Retry};
-    LastErrors errors(behind);
+    LastErrors errors(behind, [] { FAIL() << "nothing runs again"; });
     errors.fallSilent();
     EXPECT_EQ(reportedTo(errors), errors::ErrorAction::Abort);
     EXPECT_TRUE(behind.reports.empty());
