@@ -52,6 +52,14 @@ bool LogOns::askNow(const std::string& server) {
     return m_desk->isRefused(server) && ask(server);
 }
 
+bool LogOns::reach(const std::string& server, const std::function<bool()>& isThere) {
+    m_services.tryNow();
+    bool isReached = isThere();
+    while (!isReached && askNow(server))
+        isReached = isThere();
+    return isReached;
+}
+
 bool LogOns::ask(const std::string& server) {
     const std::string name = basic::foldCase(server);
     if (!m_asked.insert(name).second)

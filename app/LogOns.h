@@ -56,6 +56,9 @@ public:
     // The person at the desk wants to reach this server now: if it refused its user, asks for another one.
     // False if it did not or the question was cancelled.
     bool askNow(const std::string& server);
+    // The same, trying at once, until `isThere` says that it is reached or nobody logs on any more. A server
+    // that only wants another user is reached.
+    bool reach(const std::string& server, const std::function<bool()>& isThere);
 
 private:
     void questioned(const std::string& server);

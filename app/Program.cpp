@@ -211,17 +211,9 @@ audio::PlayerServices Program::playerServices() {
 }
 
 dialogs::frmServer::Services Program::serverDialogServices() {
-    return {m_errorHandler, m_common, m_messageBoxes, m_browser,
-            [this](const std::string& share) { return reaches(share); }};
-}
-
-// A server that only wants another user is reached.
-bool Program::reaches(const std::string& share) {
-    m_smbServers.tryNow();
-    bool exists = m_files.FolderExists(share);
-    while (!exists && m_logOns.askNow(serverOf(share)))
-        exists = m_files.FolderExists(share);
-    return exists;
+    return {m_errorHandler, m_common, m_messageBoxes, m_browser, [this](const std::string& share) {
+                return m_logOns.reach(serverOf(share), [&] { return m_files.FolderExists(share); });
+            }};
 }
 
 void Program::connectEvents(SingleInstance& instance) {

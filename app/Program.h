@@ -71,7 +71,6 @@ private:
     HelpServices helpServices();
     audio::PlayerServices playerServices();
     dialogs::frmServer::Services serverDialogServices();
-    bool reaches(const std::string& share);
 
     Application& m_application;
     basic::SystemClock m_clock;

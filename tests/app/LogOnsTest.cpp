@@ -135,6 +135,28 @@ TEST_F(LogOnsTest, AskAgainAfterACancelledQuestionOnlyWhenSomebodyWantsTheServer
     EXPECT_EQ(m_asked, 2);
 }
 
+TEST_F(LogOnsTest, ReachAServerAtOnceAndWithWhomItTakes) {
+    int questions = 0;
+    EXPECT_TRUE(m_logOns.reach("srv01", [&] {
+        EXPECT_EQ(m_tried, ++questions);
+        if (questions < 3)
+            refuse("SRV01");
+        return questions == 3;
+    }));
+    EXPECT_EQ(m_asked, 2);
+}
+
+TEST_F(LogOnsTest, ReachNoServerThatIsNotThereOrWhoseQuestionIsCancelled) {
+    EXPECT_FALSE(m_logOns.reach("srv01", [] { return false; }));
+    EXPECT_EQ(m_asked, 0);
+    m_answer.clear();
+    EXPECT_FALSE(m_logOns.reach("srv01", [this] {
+        refuse("srv01");
+        return false;
+    }));
+    EXPECT_EQ(m_asked, 1);
+}
+
 // A thread that was refused and waits for the person at the desk, who answers as `m_answer` says.
 class LogOnsThreadTest : public LogOnsTest {
 protected:
