@@ -13,8 +13,13 @@ namespace {
 using resources::localText;
 
 constexpr int kExitDelayMs = 200;
+constexpr int kNextDialogMs = 50;
 
 } // namespace
+
+TrayEvents::TrayEvents(Parts parts) : m_parts(parts) {
+    connect(&m_answering, &QTimer::timeout, this, &TrayEvents::answerDialogs);
+}
 
 void TrayEvents::attach(tray::frmSysTray& icon) {
     icon.AddMenuItem(localText(3683, "&View Call Log"), QStringLiteral("open"), true);
@@ -54,14 +59,23 @@ void TrayEvents::m_frmSysTray_MenuClick(const QString& key) {
         proc.step([&] { requestExit(); });
 }
 
-// The window is not unloaded from inside the menu's handler: the next tick does it. A dialog that a tick
-// waits for is answered at once, since no other tick comes before that one has ended.
+// The window is not unloaded from inside the menu's handler: the next tick does it.
 void TrayEvents::requestExit() {
     m_parts.state.exitRequested = true;
     m_parts.timer.SetEnabled(false);
     m_parts.timer.SetInterval(kExitDelayMs);
     m_parts.timer.SetEnabled(true);
-    m_parts.main.answerModalDialog();
+    m_answering.start(kNextDialogMs);
+    answerDialogs();
+}
+
+// No tick comes before one has ended that waits for a dialog; there may be others below it, and what goes on
+// behind it may bring up the next one. It goes on before the exit tick comes.
+void TrayEvents::answerDialogs() {
+    if (!m_parts.timer.Enabled()) // the exit tick has come
+        m_answering.stop();
+    else if (m_parts.main.answerModalDialog())
+        m_parts.timer.SetInterval(kExitDelayMs);
 }
 
 } // namespace app

@@ -13,6 +13,7 @@
 
 #include <QObject>
 #include <QString>
+#include <QTimer>
 
 namespace app {
 
@@ -26,7 +27,7 @@ public:
         MainProcedures& main;
     };
 
-    explicit TrayEvents(Parts parts) : m_parts(parts) {}
+    explicit TrayEvents(Parts parts);
 
     // Creates the icon's menu and listens. The icon must not outlive this object.
     void attach(tray::frmSysTray& icon);
@@ -37,8 +38,10 @@ private:
     void m_frmSysTray_SysTrayDoubleClick();
     void m_frmSysTray_SysTrayMouseDown(tray::frmSysTray& icon, int button);
     void requestExit();
+    void answerDialogs();
 
     Parts m_parts;
+    QTimer m_answering; // until the exit tick has come
 };
 
 } // namespace app

@@ -5,6 +5,8 @@
 
 #include <QDialog>
 #include <QMenu>
+#include <QTest>
+#include <QTimer>
 
 namespace app {
 namespace {
@@ -99,6 +101,28 @@ TEST_F(UnloadTest, CloseInTheMenuAnswersAnOpenDialogAtOnce) {
     notificationArea.menu->actions().last()->trigger();
     EXPECT_FALSE(dialog.isVisible());
     EXPECT_EQ(unloaded, 0);
+}
+
+// While a tick waits for dialogs, no other one comes, not even the exit tick. The procedures that go on may
+// bring up further ones.
+TEST_F(UnloadTest, CloseInTheMenuAnswersAllDialogsThatATickWaitsFor) {
+    QDialog inner;
+    QDialog next;
+    const auto openInner = [&] {
+        EXPECT_TRUE(dialog.isVisible());
+        QTimer::singleShot(0, &inner, [&] { notificationArea.menu->actions().last()->trigger(); });
+        inner.exec();
+    };
+    const auto waitForAll = [&] {
+        QTimer::singleShot(0, &dialog, openInner);
+        dialog.exec();
+        next.exec();
+        EXPECT_EQ(unloaded, 0);
+    };
+    QObject::connect(&window->timer(), &forms::Timer::ThatTime, &dialog, waitForAll,
+                     Qt::SingleShotConnection);
+    window->timer().SetInterval(1);
+    EXPECT_TRUE(QTest::qWaitFor([this] { return unloaded == 1; }));
 }
 
 TEST_F(UnloadTest, WithoutADialogThereIsNothingToAnswer) {
