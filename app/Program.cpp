@@ -221,8 +221,11 @@ void Program::connectEvents(SingleInstance& instance) {
                                {[this] { activate(m_main); }, [this] { m_main.notificationAreaMissing(); },
                                 [this] { m_main.notificationAreaReturned(); },
                                 [this] { m_main.unload(UnloadMode::SessionEnd); }}};
-    // From then on each dialog's event loop ends as it begins.
-    QObject::connect(&m_main, &frmMain::unloading, qApp, [] { QCoreApplication::exit(); });
+    // From then on nobody can be asked: each dialog's event loop ends as it begins.
+    QObject::connect(&m_main, &frmMain::unloading, &m_main, [this] {
+        m_shownErrors.askNobody();
+        QCoreApplication::exit();
+    });
     QObject::connect(&m_main, &frmMain::unloaded, &m_main, [this] { m_errorHandler.fallSilent(); });
     QObject::connect(&instance, &SingleInstance::activated, &m_main, [events] { events.activated(); });
     QObject::connect(&m_areaWatch, &shell::NotificationAreaWatch::missing, &m_main,

@@ -32,6 +32,8 @@ ErrorAction basErrHandling::ReportError(std::string_view module, std::string_vie
         if (log)
             log->append(recordText(failure));
     });
+    if (m_asksNobody)
+        return ErrorAction::Ignore;
     if (m_asking)
         return ErrorAction::Abort;
     m_asking = true;

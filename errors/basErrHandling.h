@@ -30,6 +30,10 @@ public:
     basErrHandling(ErrorLog log, const basic::Clock& clock, MakeDialog makeDialog)
         : m_log(std::move(log)), m_clock(clock), m_makeDialog(std::move(makeDialog)) {}
 
+    // From now on a failure leaves its record, and its procedure goes on with the next statement: a program
+    // that ends takes all of its last steps, whichever of them fails.
+    void askNobody() { m_asksNobody = true; }
+
     ErrorAction ReportError(std::string_view module, std::string_view procedure, std::int32_t number,
                             std::string_view description, std::int32_t line) override;
 
@@ -41,6 +45,7 @@ private:
     MakeDialog m_makeDialog;
     std::unique_ptr<ErrorDialog> m_dialog;
     bool m_asking = false;
+    bool m_asksNobody = false;
 };
 
 } // namespace errors

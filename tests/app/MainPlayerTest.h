@@ -15,6 +15,7 @@ namespace app {
 
 class MainPlayerTest : public MainWorld {
 protected:
+    using MainWorld::MainWorld;
     // A window over mailbox 12 with a call C1 that has a message, and C2 that has none.
     void loadOne() {
         configure({12});

@@ -2,10 +2,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 //
 // A failure that does not go away, with the real handler, log and dialog.
-#include "errors/basErrHandling.h"
-#include "errors/frmError.h"
 #include "tests/app/MainWorld.h"
-#include "tests/errors/WorkingFolder.h"
+#include "tests/app/RealHandler.h"
 
 #include <QApplication>
 #include <QPushButton>
@@ -17,41 +15,6 @@ namespace {
 
 constexpr int kPollSeconds = 10;
 constexpr int kTicksOfAnHour = 3600 / kPollSeconds;
-
-class SetClock final : public basic::Clock {
-public:
-    basic::CalendarTime now() const override {
-        return {2026, 3, 14, 9 + m_seconds / 3600, m_seconds / 60 % 60, m_seconds % 60};
-    }
-    void pass(int seconds) { m_seconds += seconds; }
-
-private:
-    int m_seconds = 0;
-};
-
-// Made before the window that reports to it.
-class RealHandler {
-protected:
-    std::string log() const { return errors::contentOf(m_folder.path() / "qmClient.log"); }
-    int records() const {
-        const std::string text = log();
-        int count = 0;
-        for (auto at = text.find("***** Error"); at != std::string::npos;
-             at = text.find("***** Error", at + 1))
-            ++count;
-        return count;
-    }
-
-    errors::WorkingFolder m_folder;
-    SetClock m_clock;
-    errors::ErrorDialogState m_state;
-    int m_dialogsMade = 0;
-    errors::basErrHandling m_handler{errors::ErrorLog("qmClient.log", ""), m_clock, [this] {
-                                         ++m_dialogsMade;
-                                         return std::make_unique<errors::frmError>(
-                                             errors::programFacts("qmClient"), m_state, nullptr);
-                                     }};
-};
 
 class RepeatedFailureTest : public RealHandler, public MainWorld {
 protected:

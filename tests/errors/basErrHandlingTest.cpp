@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "errors/basErrHandling.h"
 
+#include "platform/basic/ErrorNumbers.h"
 #include "tests/errors/DiskSync.h"
 #include "tests/errors/WorkingFolder.h"
 
@@ -220,6 +221,19 @@ TEST_F(basErrHandlingTest, AnAnswerThatCannotBeReadAborts) {
     EXPECT_EQ(report(), ErrorAction::Abort);
     m_script.failing.clear();
     EXPECT_EQ(report(), ErrorAction::Ignore) << "later failures are asked about again";
+}
+
+TEST_F(basErrHandlingTest, OnceNobodyIsAskedAFailureLeavesItsRecordAndIsIgnored) {
+    m_script.answer = "A";
+    m_script.whileShown = [this] {
+        m_handler.askNobody();
+        EXPECT_EQ(report(), ErrorAction::Ignore) << "also while a dialog is up";
+    };
+    EXPECT_EQ(report(), ErrorAction::Abort) << "was asked before";
+    EXPECT_EQ(report(), ErrorAction::Ignore);
+    EXPECT_EQ(std::count(m_script.calls.begin(), m_script.calls.end(), "show"), 1);
+    EXPECT_EQ(logged(), std::string(kRecord) + kRecord + kRecord);
+    EXPECT_EQ(report(basic::kNonModalWhileModal), ErrorAction::Abort);
 }
 
 TEST_F(basErrHandlingTest, AReportWhileADialogIsUpLeavesItsRecordAndAborts) {
