@@ -17,6 +17,7 @@ Tool::Tool(std::string_view name, std::string_view caption, bool inToolbar, QObj
     m_action->setObjectName(toQString(name));
     m_action->setSeparator(name == kSeparatorName);
     m_action->setMenuRole(QAction::NoRole);
+    m_action->setAutoRepeat(false); // a key that is held is one click
     connect(m_action, &QAction::triggered, this, [this] {
         renewAction();
         Q_EMIT clicked();

@@ -76,6 +76,16 @@ TEST_F(ShortcutsTest, ReturnEnterAndSpacePlayInTheList) {
     }
 }
 
+TEST_F(ShortcutsTest, AKeyThatIsHeldRunsItsCommandOnce) {
+    show();
+    press(Qt::Key_Down);
+    press(Qt::Key_Return);
+    sound.takeLog();
+    QTest::simulateEvent(&view(), true, Qt::Key_Return, {}, u"\r"_qs, true);
+    EXPECT_THAT(sound.takeLog(), testing::IsEmpty());
+    EXPECT_TRUE(player().IsPlaying());
+}
+
 TEST_F(ShortcutsTest, SpaceOnAButtonPressesThatButtonOnly) {
     show();
     press(Qt::Key_Down);
