@@ -7,7 +7,6 @@
 #include "resources/LocalText.h"
 
 #include <QGridLayout>
-#include <QGuiApplication>
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
@@ -112,11 +111,12 @@ void frmServer::OKButton_Click() {
     proc.step([&] { done(Accepted); });
 }
 
+// The cursor is this window's only: who logs on may be asked meanwhile.
 bool frmServer::reaches(const std::string& path) {
     m_isChecking = true;
-    QGuiApplication::setOverrideCursor(Qt::BusyCursor);
+    setCursor(Qt::BusyCursor);
     const auto end = qScopeGuard([this] {
-        QGuiApplication::restoreOverrideCursor();
+        unsetCursor();
         m_isChecking = false;
     });
     return m_services.isReachable(path);

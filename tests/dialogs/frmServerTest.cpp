@@ -6,6 +6,8 @@
 #include "resources/StringTable.h"
 #include "tests/dialogs/ServerWorld.h"
 
+#include <QDialog>
+#include <QGuiApplication>
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
@@ -148,6 +150,19 @@ TEST_F(frmServerTest, AsksOneThingAtATime) {
     click("OKButton");
     EXPECT_EQ(m_world.asked.size(), 1U);
     EXPECT_FALSE(m_form->Cancelled());
+}
+
+TEST_F(frmServerTest, ShowsThatItIsBusyWhileTheServerIsAskedAndNoOtherWindowDoes) {
+    const QDialog question;
+    m_world.onCheck = [&] {
+        EXPECT_EQ(m_form->cursor().shape(), Qt::BusyCursor);
+        EXPECT_EQ(QGuiApplication::overrideCursor(), nullptr);
+        EXPECT_EQ(question.cursor().shape(), Qt::ArrowCursor);
+    };
+    type(u"nowhere"_qs);
+    click("OKButton");
+    EXPECT_EQ(m_world.asked.size(), 1U);
+    EXPECT_EQ(m_form->cursor().shape(), Qt::ArrowCursor);
 }
 
 TEST_F(frmServerTest, SaysNothingWhenTheProgramEndsWhileTheServerIsAsked) {
