@@ -4,6 +4,7 @@
 
 #include <QMetaMethod>
 #include <QPointer>
+#include <QScopeGuard>
 
 namespace forms {
 
@@ -65,11 +66,12 @@ void Timer::tick() {
         m_timer.stop();
         return;
     }
-    const QPointer<Timer> alive(this);
     m_inTick = true;
+    const auto end = qScopeGuard([alive = QPointer(this)] {
+        if (alive)
+            alive->m_inTick = false;
+    });
     Q_EMIT ThatTime();
-    if (alive)
-        m_inTick = false;
 }
 
 } // namespace forms

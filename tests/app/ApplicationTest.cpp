@@ -3,8 +3,10 @@
 #include "app/Application.h"
 
 #include "platform/basic/RuntimeError.h"
+#include "platform/forms/Timer.h"
 #include "tests/errors/RecordingErrorHandler.h"
 
+#include <QTest>
 #include <QTimer>
 
 #include <gtest/gtest.h>
@@ -38,6 +40,18 @@ TEST_F(ApplicationTest, AFailureInAnEventsHandlerIsReportedAndTheLoopGoesOn) {
     EXPECT_EQ(m_errorHandler.reports[0].number, 91);
     EXPECT_EQ(m_errorHandler.reports[0].description, "no popup");
     EXPECT_EQ(m_errorHandler.reports[1].number, 7);
+}
+
+TEST_F(ApplicationTest, ATimerWhoseHandlerFailedTicksOn) {
+    forms::Timer timer;
+    int ticks = 0;
+    QObject::connect(&timer, &forms::Timer::ThatTime, [&] {
+        if (++ticks == 1)
+            throw basic::RuntimeError(basic::kObjectNotSet);
+    });
+    timer.SetInterval(1);
+    EXPECT_TRUE(QTest::qWaitFor([&] { return ticks > 1; }));
+    EXPECT_EQ(m_errorHandler.reports.size(), 1U);
 }
 
 TEST_F(ApplicationTest, EventsReachTheirReceivers) {
