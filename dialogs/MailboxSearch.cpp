@@ -8,6 +8,7 @@
 #include <mutex>
 #include <system_error>
 #include <thread>
+#include <tuple>
 #include <utility>
 
 namespace dialogs {
@@ -31,6 +32,11 @@ struct MailboxSearch::Search {
         read = done;
         total = ofAll;
     }
+    // What was read, of how many, and whether that is all.
+    std::tuple<int, int, bool> state() {
+        const std::scoped_lock lock(mutex);
+        return {read, total, isDone};
+    }
     void cancel() {
         const std::scoped_lock lock(mutex);
         isCancelled = true;
@@ -41,6 +47,10 @@ struct MailboxSearch::Search {
         found = std::move(result);
         isDone = true;
         changed.notify_all();
+    }
+    FoundMailboxes take() {
+        const std::scoped_lock lock(mutex);
+        return std::move(found);
     }
     void sleep(std::chrono::milliseconds time) {
         std::unique_lock lock(mutex);
@@ -80,7 +90,7 @@ void MailboxSearch::begin(const std::string& folder, Listener listener) {
     m_listener = std::move(listener);
     if (search->isDoneWithin(kAtOnce))
         glance();
-    else
+    if (m_search == search)
         m_glances.start();
 }
 
@@ -112,16 +122,12 @@ void MailboxSearch::glance() {
     const Listener listener = m_listener;
     if (!search)
         return;
-    std::unique_lock lock(search->mutex);
-    const int read = search->read;
-    const int total = search->total;
-    if (!search->isDone) {
-        lock.unlock();
-        listener.progressed(read, total);
+    const auto [read, total, isDone] = search->state();
+    if (!isDone || !listener.isReady()) {
+        listener.progressed(isDone ? total : read, total);
         return;
     }
-    const FoundMailboxes found = std::move(search->found);
-    lock.unlock();
+    const FoundMailboxes found = search->take();
     cancel();
     listener.done(found);
 }

@@ -37,6 +37,8 @@ public:
     struct Listener {
         std::function<void(int read, int total)> progressed;
         std::function<void(const FoundMailboxes& found)> done;
+        // While it says no, what was found is kept.
+        std::function<bool()> isReady = [] { return true; };
     };
 
     // A search that is over so soon needs no second visit.
@@ -46,8 +48,8 @@ public:
     explicit MailboxSearch(OpenShare openShare);
     ~MailboxSearch() override;
 
-    // `listener.done` is called once, before this returns or later from the event loop; not at all after
-    // cancel() or another begin(). Error 7 without a thread.
+    // `listener.done` is called once, when the listener is ready, before this returns or later from the event
+    // loop; not at all after cancel() or another begin(). Error 7 without a thread.
     void begin(const std::string& folder, Listener listener);
     bool isSearching() const noexcept { return m_search != nullptr; }
     // Nobody is told anything any more.

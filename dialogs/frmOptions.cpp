@@ -10,6 +10,7 @@
 #include "resources/LocalText.h"
 #include "resources/StringTable.h"
 
+#include <QApplication>
 #include <QLabel>
 #include <QLineEdit>
 #include <QProgressBar>
@@ -98,8 +99,16 @@ void frmOptions::Init() {
 void frmOptions::beginSearch() {
     const std::string root = m_common.GetQMPath(basic::objectOf(m_config).ServerName);
     setSearching(true);
-    m_search.begin(data::mailboxesFolder(root), {[this](int read, int total) { showProgress(read, total); },
-                                                 [this](const FoundMailboxes& found) { fill(found); }});
+    m_search.begin(data::mailboxesFolder(root),
+                   {[this](int read, int total) { showProgress(read, total); },
+                    [this](const FoundMailboxes& found) { fill(found); }, [this] { return isInFront(); }});
+}
+
+// A failure that fill() told beside another one's report would be answered unseen, and OK would give up the
+// mailboxes that are missing from the list.
+bool frmOptions::isInFront() const {
+    const QWidget* const modal = QApplication::activeModalWidget();
+    return modal == nullptr || modal == this;
 }
 
 void frmOptions::setSearching(bool isSearching) {

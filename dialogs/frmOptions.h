@@ -3,10 +3,10 @@
 #pragma once
 // The options: server, poll interval and the mailboxes to watch. Edits the settings object that it is given;
 // OK saves it, everything else (the button, Escape, the frame) puts it back as it was and counts as Cancel.
-// The list is filled when the search for the server's mailboxes is over; until then there is nothing to
-// confirm, and the dialog lives on. Shown modally and not reused. Failures are reported under frmOptions;
-// those of the search under Init, which it belongs to. User-interface thread; what it is given must outlive
-// it.
+// The list is filled when the search for the server's mailboxes is over and no other modal window is in
+// front; until then there is nothing to confirm, and the dialog lives on. Shown modally and not reused.
+// Failures are reported under frmOptions; those of the search under Init, which it belongs to. User-interface
+// thread; what it is given must outlive it.
 
 #include "data/basCommon.h"
 #include "data/clsConfig.h"
@@ -59,6 +59,7 @@ private:
     void beginSearch();
     void showProgress(int read, int total);
     void setSearching(bool isSearching);
+    bool isInFront() const;
     void fill(const FoundMailboxes& found);
     std::int32_t typedInterval() const;
     void putBack();

@@ -49,6 +49,20 @@ TEST_F(MailboxSearchTest, TellsItsResultOnce) {
     EXPECT_THAT(results, testing::ElementsAre(1U));
 }
 
+TEST_F(MailboxSearchTest, KeepsItsResultUntilTheListenerIsReady) {
+    mailbox("12");
+    bool isReady = false;
+    MailboxSearch::Listener patient = listener();
+    patient.isReady = [&isReady] { return isReady; };
+    search.begin(kFolder, patient);
+    const auto isAllRead = [this] { return !progress.empty() && progress.back() == std::pair(1, 1); };
+    ASSERT_TRUE(QTest::qWaitFor(isAllRead));
+    EXPECT_THAT(results, testing::IsEmpty());
+    isReady = true;
+    ASSERT_TRUE(isDone());
+    EXPECT_THAT(results, testing::ElementsAre(1U));
+}
+
 TEST_F(MailboxSearchTest, AThousandMailboxesAreFoundWhileEventsRun) {
     mailbox("1");
     for (int number = 2; number <= 1000; ++number) {

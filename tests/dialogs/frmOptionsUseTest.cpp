@@ -109,6 +109,25 @@ TEST_F(SlowShareTest, TheDialogLivesOnWithItsProgressAndHasNothingToConfirmYet) 
     EXPECT_THAT(rows(), ElementsAre("+12|Sales|first floor"));
 }
 
+// A failure that is told while another one's report is up is answered unseen, and mailboxes that are missing
+// from the list would be given up by OK.
+TEST_F(SlowShareTest, WhatWasFoundWaitsBehindTheWindowInFront) {
+    open();
+    dialog->show();
+    QDialog inFront;
+    inFront.setModal(true);
+    inFront.show();
+    release();
+    const auto& bar = control<QProgressBar>("barSearch");
+    ASSERT_TRUE(QTest::qWaitFor([&bar] { return bar.maximum() == 1 && bar.value() == 1; }));
+    EXPECT_THAT(rows(), IsEmpty());
+    EXPECT_FALSE(control<QPushButton>("cmdOK").isEnabled());
+    inFront.close();
+    ASSERT_TRUE(QTest::qWaitFor([this] { return !search.isSearching(); }));
+    EXPECT_THAT(rows(), ElementsAre("+12|Sales|first floor"));
+    EXPECT_TRUE(control<QPushButton>("cmdOK").isEnabled());
+}
+
 TEST_F(SlowShareTest, CancelNeedsNoAnswerOfTheShare) {
     open();
     dialog->show();
