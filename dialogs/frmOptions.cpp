@@ -148,9 +148,11 @@ void frmOptions::fill(const FoundMailboxes& found) {
 void frmOptions::cmdOK_Click() {
     errors::Procedure proc{m_errors, kModule, "cmdOK_Click"};
     const auto config = m_config;
+    // First of all: it is what can fail, and an Abort must leave the settings that ticks count by.
+    const std::int32_t interval = proc.value(m_before.PollInterval, [&] { return typedInterval(); });
     proc.step([&] { basic::objectOf(config).Clear(); });
     proc.step([&] { m_list.take(proc, basic::objectOf(config)); });
-    proc.step([&] { basic::objectOf(config).PollInterval = typedInterval(); });
+    proc.step([&] { basic::objectOf(config).PollInterval = interval; });
     proc.step([&] {
         if (basic::objectOf(config).PollInterval < kLeastInterval)
             config->PollInterval = data::kDefaultPollInterval;

@@ -134,6 +134,33 @@ TEST_F(EditOptionsTest, WhatATickBuiltFromSettingsThatWereGivenUpIsBuiltAnew) {
     EXPECT_EQ(onlyLine(), kNoConnection);
 }
 
+// The report lets events run.
+TEST_F(EditOptionsTest, TicksBesideAnOKThatFailsCountWhatWasWatchedBefore) {
+    configure({12});
+    describedMailbox(12, 3);
+    describedMailbox(15, 5);
+    load();
+    errorHandler.onReport = [this] {
+        tick();
+        errorHandler.onReport = nullptr;
+    };
+    options.action = [this](frmOptions& dialog) {
+        waitForList();
+        listOf(dialog).ListItems().Item("12K").SetChecked(false);
+        listOf(dialog).ListItems().Item("15K").SetChecked(true);
+        dialog.findChild<QLineEdit*>(QStringLiteral("txtInterval"))->setText(QStringLiteral("99999999999"));
+        press(dialog, "cmdOK");
+        tick();
+        dialog.reject();
+    };
+    window->ab_ToolClick("miVOptions");
+    tick();
+    EXPECT_EQ(errorHandler.reports.size(), 1U);
+    EXPECT_EQ(window->state().newCallTotal, 0);
+    EXPECT_EQ(popup(), nullptr);
+    EXPECT_EQ(column(0).size(), 3U);
+}
+
 TEST_F(EditOptionsTest, ASecondCommandBringsTheDialogToTheFront) {
     configure({12});
     describedMailbox(12, 1);
