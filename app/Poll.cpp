@@ -192,13 +192,16 @@ void Poll::refreshList(errors::Procedure& proc, const data::clsMailbox& mailbox)
 
 void Poll::concludePoll(errors::Procedure& proc) {
     MainState& state = m_parts.state;
-    if (state.newCallTotal >= 1 && !state.firstPoll)
-        proc.step([&] { m_parts.announce(state.newCallTotal); });
     if (!proc.running())
         return;
-    if (state.firstPoll)
+    if (state.firstPoll) {
         state.newCallTotal = 0;
-    state.firstPoll = false;
+        // Nobody was asked where nobody is watched, and the options may put back whom they took out
+        // meanwhile.
+        state.firstPoll = !state.config->watchesMailboxes();
+    } else if (state.newCallTotal >= 1) {
+        proc.step([&] { m_parts.announce(state.newCallTotal); });
+    }
 }
 
 } // namespace app

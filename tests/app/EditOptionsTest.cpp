@@ -11,6 +11,8 @@
 
 #include <gmock/gmock.h>
 
+#include <filesystem>
+
 namespace app {
 namespace {
 
@@ -159,6 +161,27 @@ TEST_F(EditOptionsTest, TicksBesideAnOKThatFailsCountWhatWasWatchedBefore) {
     EXPECT_EQ(window->state().newCallTotal, 0);
     EXPECT_EQ(popup(), nullptr);
     EXPECT_EQ(column(0).size(), 3U);
+}
+
+// The first poll could not learn the count, and the next one finds nobody to ask.
+TEST_F(EditOptionsTest, ATickBesideAnotherServerLeavesTheFirstCountsToBeLearned) {
+    configure({12});
+    describedMailbox(12, 3);
+    const auto kept = folder.path("kept.mdb");
+    std::filesystem::copy_file(mailbox(12).path(), kept);
+    std::filesystem::resize_file(mailbox(12).path(), 3 * 4096);
+    load();
+    std::filesystem::copy_file(kept, mailbox(12).path(), std::filesystem::copy_options::overwrite_existing);
+    servers.answer = QStringLiteral("elsewhere");
+    options.action = [this](frmOptions& dialog) {
+        press(dialog, "cmdServer");
+        tick();
+        dialog.reject();
+    };
+    window->ab_ToolClick("miVOptions");
+    tick();
+    EXPECT_EQ(popup(), nullptr);
+    EXPECT_EQ(window->state().config->Mailboxes.at(1)->LastCallCount, 3);
 }
 
 TEST_F(EditOptionsTest, ASecondCommandBringsTheDialogToTheFront) {
