@@ -31,19 +31,35 @@ void MailboxData::InitData() {
     if (!config)
         return;
     const std::uint32_t generation = ++state.generation;
+    const auto goesOn = [&] { return proc.running() && state.generation == generation; };
+    countAnew(*config);
     proc.step([&] { m_parts.timer.SetInterval(inMilliseconds(config->PollInterval)); });
-    clear(proc);
-    state.nobodyAnswered = false;
-    state.notConnected = !proc.value(false, [&] { return m_parts.main.InitConnection(); });
-    if (state.generation != generation)
+    if (!goesOn())
         return;
-    if (!state.notConnected)
+    clear(proc);
+    const bool isConnected = proc.value(false, [&] { return m_parts.main.InitConnection(); });
+    if (!goesOn())
+        return;
+    state.notConnected = !isConnected;
+    if (isConnected)
         showMailboxes(proc, *config);
     else
-        proc.step([&] {
-            addStatusLine(m_parts.list,
-                          LoadLocalString(3685, "A connection to the server could not be established."));
-        });
+        proc.step([&] { addNotConnectedLine(m_parts.list); });
+}
+
+// First of all, for an Abort ends everything that follows: the next poll learns the counts then, too, and
+// builds nothing anew.
+void MailboxData::countAnew(const data::clsConfig& config) {
+    MainState& state = m_parts.state;
+    state.notConnected = state.nobodyAnswered = false;
+    state.firstPoll = true;
+    forgetNewCalls(config);
+}
+
+void MailboxData::forgetNewCalls(const data::clsConfig& config) {
+    m_parts.state.newCallTotal = 0;
+    for (const auto& mailbox : config.Mailboxes)
+        mailbox->NewCallCount = 0;
 }
 
 void MailboxData::clear(errors::Procedure& proc) {
@@ -67,11 +83,7 @@ void MailboxData::showMailboxes(errors::Procedure& proc, const data::clsConfig& 
     if (state.generation != generation)
         return;
     proc.step([&] { m_parts.main.UpdateButtonStates(); });
-    proc.step([&] { state.newCallTotal = 0; });
-    proc.step([&] {
-        for (const auto& mailbox : config.Mailboxes)
-            mailbox->NewCallCount = 0;
-    });
+    proc.step([&] { forgetNewCalls(config); });
     proc.step([&] { m_parts.main.mTimer_ThatTime(); });
 }
 

@@ -36,6 +36,8 @@ public:
     bool InitConnection();
 
 private:
+    void countAnew(const data::clsConfig& config);
+    void forgetNewCalls(const data::clsConfig& config);
     void clear(errors::Procedure& proc);
     void showMailboxes(errors::Procedure& proc, const data::clsConfig& config);
     void addTabs(errors::Procedure& proc, const data::clsConfig& config);

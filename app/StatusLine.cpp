@@ -3,6 +3,7 @@
 #include "app/StatusLine.h"
 
 #include "platform/basic/Twips.h"
+#include "resources/StringTable.h"
 
 namespace app {
 namespace {
@@ -20,6 +21,11 @@ void beginStatusLine(forms::ListView& list) {
 
 void addStatusLine(forms::ListView& list, std::string_view text) {
     list.ListItems().Add({}, text);
+}
+
+void addNotConnectedLine(forms::ListView& list) {
+    addStatusLine(list,
+                  resources::LoadLocalString(3685, "A connection to the server could not be established."));
 }
 
 } // namespace app

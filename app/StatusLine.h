@@ -14,5 +14,7 @@ namespace app {
 void beginStatusLine(forms::ListView& list);
 // Adds the line.
 void addStatusLine(forms::ListView& list, std::string_view text);
+// The line of a list without a server.
+void addNotConnectedLine(forms::ListView& list);
 
 } // namespace app
