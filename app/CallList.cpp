@@ -68,13 +68,25 @@ void CallList::showNoMailboxes(errors::Procedure& proc) {
     });
 }
 
+// An old popup can still be clicked where the list was built without a server: it goes on saying so.
+void CallList::showNotConnected(errors::Procedure& proc) {
+    if (!m_parts.state.notConnected)
+        return;
+    proc.step([&] { beginStatusLine(m_parts.list); });
+    proc.step([&] { addNotConnectedLine(m_parts.list); });
+}
+
 void CallList::loadMailbox(errors::Procedure& proc, const data::clsConfig& config, std::int32_t mailboxID,
                            const std::vector<data::ColumnDescription>& columns) {
     // Held: the window may be unloaded while a server is waited for.
     std::shared_ptr<jet::Connection> connection;
     proc.step([&] { connection = m_parts.common.GetMBXCon(mailboxID, config); });
-    if (!connection || !m_parts.state.config)
+    if (!m_parts.state.config)
         return;
+    if (!connection) {
+        showNotConnected(proc);
+        return;
+    }
     m_parts.state.listConnection = connection;
     std::shared_ptr<jet::Recordset> records;
     proc.step([&] { records = connection->Execute(data::kAllCalls); });

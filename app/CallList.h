@@ -37,6 +37,7 @@ public:
 private:
     void loadOnce();
     void showNoMailboxes(errors::Procedure& proc);
+    void showNotConnected(errors::Procedure& proc);
     void loadMailbox(errors::Procedure& proc, const data::clsConfig& config, std::int32_t mailboxID,
                      const std::vector<data::ColumnDescription>& columns);
 

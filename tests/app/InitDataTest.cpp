@@ -81,5 +81,14 @@ TEST_F(InitDataTest, WithoutTheServerNothingIsLeftToAnnounce) {
     EXPECT_EQ(popup(), nullptr);
 }
 
+TEST_F(InitDataTest, WithoutTheServerAClickOnThePopupLeavesTheLine) {
+    loadAndAnnounceThree();
+    removeShare();
+    window->InitData();
+    ASSERT_EQ(onlyLine(), kNoConnection);
+    clickPopup("Label1");
+    EXPECT_EQ(onlyLine(), kNoConnection);
+}
+
 } // namespace
 } // namespace app
