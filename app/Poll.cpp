@@ -38,7 +38,7 @@ void Poll::mTimer_ThatTime() {
 
 void Poll::runPolls() {
     const QScopedValueRollback running(m_running, true);
-    while (std::exchange(m_askedAgain, false) && m_parts.state.config && !askAhead())
+    while (std::exchange(m_askedAgain, false) && !isEnding() && !askAhead())
         pollOnce();
 }
 
@@ -59,7 +59,7 @@ bool Poll::askAhead() {
 }
 
 void Poll::runOver(CountAnswers answers, std::uint32_t generation) {
-    if (!m_parts.state.config || m_parts.state.exitRequested)
+    if (isEnding())
         return;
     if (m_parts.state.generation == generation) {
         const QScopedValueRollback running(m_running, true);
@@ -93,7 +93,7 @@ void Poll::pollOnce() {
     const std::uint32_t generation = state.generation;
     const bool served = state.notConnected ? proc.value(false, [&] { return isServerThere(); })
                                            : countAll(proc, generation) && waitedForAnyone;
-    if (state.generation != generation || state.exitRequested)
+    if (isOver(generation))
         return;
     if (served)
         proc.step([&] { m_parts.main.InitData(); }); // polls by itself, right after this one
@@ -114,7 +114,7 @@ bool Poll::countAll(errors::Procedure& proc, std::uint32_t generation) {
     bool answered = false;
     for (const auto& mailbox : mailboxes) {
         answered = countMailbox(proc, *config, *mailbox) || answered;
-        if (!proc.running() || m_parts.state.generation != generation)
+        if (!proc.running() || isOver(generation))
             return false;
     }
     if (m_parts.state.firstPoll)

@@ -40,6 +40,11 @@ public:
     void mTimer_ThatTime();
 
 private:
+    bool isEnding() const { return !m_parts.state.config || m_parts.state.exitRequested; }
+    // Whether a poll of this generation is to end without its further steps.
+    bool isOver(std::uint32_t generation) const {
+        return isEnding() || m_parts.state.generation != generation;
+    }
     void exitNow();
     void runPolls();
     bool askAhead();

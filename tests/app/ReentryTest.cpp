@@ -1,11 +1,13 @@
 // SPDX-FileCopyrightText: 2026 The qmClient authors
 // SPDX-License-Identifier: GPL-3.0-or-later
-// What happens inside of the list's and the poll's waits: both let events run.
+// What happens inside of the list's and the poll's waits, and of a report: all let events run.
 #include "tests/app/MainWorld.h"
 
 #include <QTimer>
 
+#include <filesystem>
 #include <functional>
+#include <vector>
 
 namespace app {
 namespace {
@@ -87,6 +89,35 @@ TEST_F(ReentryTest, PollEndsWhenTheWindowIsUnloadedMeanwhile) {
     EXPECT_EQ(window->state().config, nullptr);
     EXPECT_EQ(popup(), nullptr);
     EXPECT_TRUE(errorHandler.reports.empty());
+}
+
+// The user ends the program while a poll's first report is up; a tick had come before.
+class EndInAReportTest : public MainWorld {
+protected:
+    std::size_t reportsOfAPoll(const std::vector<int>& damaged, errors::ErrorAction answer) {
+        configure(damaged);
+        for (const int id : damaged)
+            mailbox(id).append(5);
+        load();
+        for (const int id : damaged)
+            std::filesystem::resize_file(mailbox(id).path(), 3 * 4096);
+        errorHandler.answers = {answer};
+        errorHandler.onReport = [this] {
+            tick();
+            window->state().exitRequested = true;
+            errorHandler.onReport = nullptr;
+        };
+        tick();
+        return errorHandler.reports.size();
+    }
+};
+
+TEST_F(EndInAReportTest, NoFurtherPollBegins) {
+    EXPECT_EQ(reportsOfAPoll({12}, errors::ErrorAction::Abort), 1U);
+}
+
+TEST_F(EndInAReportTest, NoFurtherMailboxIsCounted) {
+    EXPECT_EQ(reportsOfAPoll({12, 15}, errors::ErrorAction::Ignore), 1U);
 }
 
 } // namespace
