@@ -31,12 +31,19 @@ void Poll::mTimer_ThatTime() {
         return;
     }
     m_askedAgain = true;
-    const bool isAsking = m_parts.shareAccess.countsAhead && m_parts.shareAccess.countsAhead->isAsking();
-    if (!m_running && !isAsking && !m_parts.shareAccess.isWaiting())
-        runPolls();
+    m_parts.shareAccess.afterWaiting([this] { runPolls(); });
 }
 
+bool Poll::isAsking() const {
+    const CountsAhead* countsAhead = m_parts.shareAccess.countsAhead;
+    return countsAhead != nullptr && countsAhead->isAsking();
+}
+
+// A poll that is under way, or whose answers are still to come, looks at its end whether one more was asked
+// for.
 void Poll::runPolls() {
+    if (m_running || isAsking())
+        return;
     const QScopedValueRollback running(m_running, true);
     while (std::exchange(m_askedAgain, false) && !isEnding() && !askAhead())
         pollOnce();
@@ -67,8 +74,7 @@ void Poll::runOver(CountAnswers answers, std::uint32_t generation) {
         pollOnce();
         m_answers.reset();
     }
-    if (m_askedAgain)
-        runPolls();
+    runPolls();
 }
 
 void Poll::exitNow() {

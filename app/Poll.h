@@ -3,9 +3,10 @@
 #pragma once
 // The poll: counts every watched mailbox's calls, adds what is new to the totals, refreshes the list where it
 // can and announces the total. One poll at a time: one that is asked for while another runs (its list refresh
-// lets events run) starts right after. Servers are asked for all counts ahead, while the window lives on; the
-// routine then runs over their answers. Also carries out the deferred exit and puts the player back. Failures
-// are reported as frmMain's mTimer_ThatTime. What it is given must outlive it; user-interface thread.
+// lets events run) starts right after, and so does one that is asked for in a wait for a server. Servers are
+// asked for all counts ahead, while the window lives on; the routine then runs over their answers. Also
+// carries out the deferred exit and puts the player back. Failures are reported as frmMain's mTimer_ThatTime.
+// What it is given must outlive it; user-interface thread.
 
 #include "app/MainProcedures.h"
 #include "app/MainState.h"
@@ -46,6 +47,7 @@ private:
         return isEnding() || m_parts.state.generation != generation;
     }
     void exitNow();
+    bool isAsking() const;
     void runPolls();
     bool askAhead();
     void runOver(CountAnswers answers, std::uint32_t generation);

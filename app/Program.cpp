@@ -169,8 +169,7 @@ share::smb::SmbServer::Surroundings Program::browsingSurroundings() {
 }
 
 ShareAccess Program::shareAccess() {
-    return {.isWaiting = [this] { return m_waiter.isWaiting(); },
-            .afterWaiting = [this](std::function<void()> work) { m_waiter.afterWaiting(std::move(work)); },
+    return {.afterWaiting = [this](std::function<void()> work) { m_waiter.afterWaiting(std::move(work)); },
             .userActs = [this] { m_smbServers.tryNow(); },
             .userLogsOn = [this] { m_smbServers.logOnAnew(); },
             .endWaits =

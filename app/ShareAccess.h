@@ -11,9 +11,8 @@
 namespace app {
 
 struct ShareAccess {
-    // Somebody further up the stack waits for a server: nothing that needs a share may begin now.
-    std::function<bool()> isWaiting = [] { return false; };
-    // Runs the work now or when that wait is over.
+    // Nothing that needs a share may begin while somebody further up the stack waits for a server: runs the
+    // work now or when that wait is over.
     std::function<void(std::function<void()>)> afterWaiting = [](const std::function<void()>& work) {
         work();
     };

@@ -11,7 +11,6 @@ namespace {
 class ShareAccessTest : public MainWorld {
 protected:
     ShareAccessTest() {
-        shareAccess.isWaiting = [this] { return isWaiting; };
         shareAccess.afterWaiting = [this](std::function<void()> work) {
             if (isWaiting)
                 later.push_back(std::move(work));
@@ -36,13 +35,21 @@ protected:
     int ends = 0;
 };
 
-TEST_F(ShareAccessTest, ATickInsideOfAWaitPollsNothing) {
+TEST_F(ShareAccessTest, TicksInsideOfAWaitPollRightAfterIt) {
     mailbox(12).append(1);
     isWaiting = true;
     tick();
+    tick();
     EXPECT_EQ(popup(), nullptr);
     isWaiting = false;
-    tick();
+    int polls = 0; // that found new calls
+    QObject::connect(&*window, &frmMain::ItemChanged, &*window, [&] {
+        ++polls;
+        mailbox(12).append(1);
+    });
+    for (const auto& work : later)
+        work();
+    EXPECT_EQ(polls, 1);
     EXPECT_EQ(popupText(), "You have  1  new calls");
 }
 
