@@ -19,14 +19,14 @@ basic::RuntimeError failureOf(const std::exception& error) {
 
 } // namespace
 
-FoundMailboxes MailboxReading::read(const std::string& folder) {
+FoundMailboxes MailboxReading::read(const std::string& qmPath) {
     FoundMailboxes found;
     try {
-        const std::vector<std::int32_t> numbers = mailboxNumbers(subFolders(folder));
+        const std::vector<std::int32_t> numbers = mailboxNumbers(subFolders(data::mailboxesFolder(qmPath)));
         const int total = static_cast<int>(numbers.size());
         for (int i = 0; i < total && !m_isGone && !m_surroundings.isCancelled(); ++i) {
             m_surroundings.progressed(i, total);
-            readInto(found, folder, numbers[static_cast<std::size_t>(i)]);
+            readInto(found, qmPath, numbers[static_cast<std::size_t>(i)]);
         }
     } catch (const std::exception& error) {
         found.failure = failureOf(error);
@@ -46,10 +46,11 @@ std::vector<std::string> MailboxReading::subFolders(const std::string& folder) {
     return m_files.SubFolders(folder);
 }
 
-void MailboxReading::readInto(FoundMailboxes& found, const std::string& folder, std::int32_t number) {
-    const std::string database = folder + "\\" + std::to_string(number) + "\\qmLog.mdb";
+void MailboxReading::readInto(FoundMailboxes& found, const std::string& qmPath, std::int32_t number) {
+    const std::string database = data::mailboxDatabase(qmPath, number);
     jet::Connection connection(m_engine);
-    if (!isOpen(connection, database) && !(wasAway(folder) && isOpen(connection, database)))
+    if (!isOpen(connection, database) &&
+        !(wasAway(data::mailboxesFolder(qmPath)) && isOpen(connection, database)))
         return; // a mailbox that is not available, as for everybody
     try {
         found.mailboxes.push_back({number, readMailboxInfo(connection), std::nullopt});

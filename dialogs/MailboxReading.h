@@ -30,13 +30,13 @@ public:
     MailboxReading(share::FileSystemObject& files, Surroundings surroundings)
         : m_files(files), m_surroundings(std::move(surroundings)) {}
 
-    // `folder` is the one that holds the mailboxes' folders; without it nothing is found. Throws nothing but
-    // what is out of anybody's hands (no memory).
-    FoundMailboxes read(const std::string& folder);
+    // `qmPath` is the root of the server's share; without the mailboxes' folder in it nothing is found.
+    // Throws nothing but what is out of anybody's hands (no memory).
+    FoundMailboxes read(const std::string& qmPath);
 
 private:
     std::vector<std::string> subFolders(const std::string& folder);
-    void readInto(FoundMailboxes& found, const std::string& folder, std::int32_t number);
+    void readInto(FoundMailboxes& found, const std::string& qmPath, std::int32_t number);
     bool isOpen(jet::Connection& connection, const std::string& database);
     // Whether the server could not be reached and can be again.
     bool wasAway(const std::string& folder);

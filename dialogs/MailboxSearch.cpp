@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "dialogs/MailboxSearch.h"
 
+#include "data/basCommon.h"
 #include "dialogs/MailboxReading.h"
 
 #include <condition_variable>
@@ -79,13 +80,13 @@ MailboxSearch::~MailboxSearch() {
         asker.thread.join();
 }
 
-void MailboxSearch::begin(const std::string& folder, Listener listener) {
+void MailboxSearch::begin(const std::string& qmPath, Listener listener) {
     cancel();
     if (m_isEnded)
         return;
     joinDone();
     const auto search = std::make_shared<Search>();
-    start(folder, search);
+    start(qmPath, search);
     m_search = search;
     m_listener = std::move(listener);
     if (search->isDoneWithin(kAtOnce))
@@ -94,10 +95,10 @@ void MailboxSearch::begin(const std::string& folder, Listener listener) {
         m_glances.start();
 }
 
-void MailboxSearch::start(const std::string& folder, const std::shared_ptr<Search>& search) {
-    auto share = std::make_shared<SearchedShare>(m_openShare(folder));
+void MailboxSearch::start(const std::string& qmPath, const std::shared_ptr<Search>& search) {
+    auto share = std::make_shared<SearchedShare>(m_openShare(data::mailboxesFolder(qmPath)));
     try {
-        std::thread thread([search, share, folder] { run(search, *share, folder); });
+        std::thread thread([search, share, qmPath] { run(search, *share, qmPath); });
         if (!share->endWaits) {
             thread.detach();
             return;
@@ -110,11 +111,11 @@ void MailboxSearch::start(const std::string& folder, const std::shared_ptr<Searc
 
 // On the search's own thread.
 void MailboxSearch::run(const std::shared_ptr<Search>& search, const SearchedShare& share,
-                        const std::string& folder) {
+                        const std::string& qmPath) {
     MailboxReading reading(*share.files, {[search] { return search->wasCancelled(); },
                                           [search](int read, int total) { search->progress(read, total); },
                                           [search](std::chrono::milliseconds time) { search->sleep(time); }});
-    search->finish(reading.read(folder));
+    search->finish(reading.read(qmPath));
 }
 
 void MailboxSearch::glance() {

@@ -32,7 +32,7 @@ struct SearchedShare {
 class MailboxSearch final : public QObject {
     Q_OBJECT
 public:
-    // For the folder that is to be searched.
+    // For the folder of the mailboxes' folders.
     using OpenShare = std::function<SearchedShare(const std::string& folder)>;
     struct Listener {
         std::function<void(int read, int total)> progressed;
@@ -48,9 +48,10 @@ public:
     explicit MailboxSearch(OpenShare openShare);
     ~MailboxSearch() override;
 
-    // `listener.done` is called once, when the listener is ready, before this returns or later from the event
-    // loop; not at all after cancel() or another begin(). Error 7 without a thread.
-    void begin(const std::string& folder, Listener listener);
+    // `qmPath` is the root of the server's share. `listener.done` is called once, when the listener is ready,
+    // before this returns or later from the event loop; not at all after cancel() or another begin(). Error 7
+    // without a thread.
+    void begin(const std::string& qmPath, Listener listener);
     bool isSearching() const noexcept { return m_search != nullptr; }
     // Nobody is told anything any more.
     void cancel() noexcept;
@@ -61,8 +62,8 @@ private:
     struct Search;
     struct Asker; // a thread that talks to a server
     static void run(const std::shared_ptr<Search>& search, const SearchedShare& share,
-                    const std::string& folder);
-    void start(const std::string& folder, const std::shared_ptr<Search>& search);
+                    const std::string& qmPath);
+    void start(const std::string& qmPath, const std::shared_ptr<Search>& search);
     void glance();
     void joinDone();
 

@@ -97,9 +97,9 @@ void frmOptions::Init() {
 }
 
 void frmOptions::beginSearch() {
-    const std::string root = m_common.GetQMPath(basic::objectOf(m_config).ServerName);
+    const std::string qmPath = m_common.GetQMPath(basic::objectOf(m_config).ServerName);
     setSearching(true);
-    m_search.begin(data::mailboxesFolder(root),
+    m_search.begin(qmPath,
                    {[this](int read, int total) { showProgress(read, total); },
                     [this](const FoundMailboxes& found) { fill(found); }, [this] { return isInFront(); }});
 }

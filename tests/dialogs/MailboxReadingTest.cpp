@@ -15,7 +15,7 @@ using testing::Pair;
 
 class MailboxReadingTest : public testing::Test, protected OptionsWorld {
 protected:
-    FoundMailboxes read(const std::string& path = "\\\\srv01\\Quillamar_0$\\MBX") {
+    FoundMailboxes read(const std::string& qmPath = "\\\\srv01\\Quillamar_0$") {
         WatchedFolder watched(resolver(), beforeEachQuestion);
         MailboxReading reading(watched, {[this] { return isCancelled; },
                                          [this](int done, int total) {
@@ -28,7 +28,7 @@ protected:
                                              if (onSleep)
                                                  onSleep();
                                          }});
-        return reading.read(path);
+        return reading.read(qmPath);
     }
     static std::vector<std::int32_t> numbers(const FoundMailboxes& found) {
         std::vector<std::int32_t> numbers;
@@ -62,7 +62,7 @@ TEST_F(MailboxReadingTest, ANullDescriptionIsEmpty) {
 }
 
 TEST_F(MailboxReadingTest, ANameThatIsNoPathIsAServerWithoutMailboxes) {
-    const FoundMailboxes found = read("\\\\\\Quillamar_0$\\MBX");
+    const FoundMailboxes found = read("\\\\\\Quillamar_0$");
     EXPECT_THAT(found.mailboxes, IsEmpty());
     EXPECT_FALSE(found.failure.has_value());
 }

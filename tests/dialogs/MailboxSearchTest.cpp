@@ -14,7 +14,7 @@
 namespace dialogs {
 namespace {
 
-constexpr const char* kFolder = "\\\\srv01\\Quillamar_0$\\MBX";
+constexpr const char* kShare = "\\\\srv01\\Quillamar_0$";
 
 class MailboxSearchTest : public testing::Test, protected OptionsWorld {
 protected:
@@ -44,7 +44,7 @@ protected:
 
 TEST_F(MailboxSearchTest, TellsItsResultOnce) {
     mailbox("12");
-    search.begin(kFolder, listener());
+    search.begin(kShare, listener());
     ASSERT_TRUE(isDone());
     EXPECT_THAT(results, testing::ElementsAre(1U));
 }
@@ -54,7 +54,7 @@ TEST_F(MailboxSearchTest, KeepsItsResultUntilTheListenerIsReady) {
     bool isReady = false;
     MailboxSearch::Listener patient = listener();
     patient.isReady = [&isReady] { return isReady; };
-    search.begin(kFolder, patient);
+    search.begin(kShare, patient);
     const auto isAllRead = [this] { return !progress.empty() && progress.back() == std::pair(1, 1); };
     ASSERT_TRUE(QTest::qWaitFor(isAllRead));
     EXPECT_THAT(results, testing::IsEmpty());
@@ -75,7 +75,7 @@ TEST_F(MailboxSearchTest, AThousandMailboxesAreFoundWhileEventsRun) {
         if (++asked == 100)
             answers.wait();
     };
-    search.begin(kFolder, listener());
+    search.begin(kShare, listener());
     EXPECT_THAT(results, testing::IsEmpty());
     ASSERT_TRUE(QTest::qWaitFor([this] { return !progress.empty() && progress.back().first > 0; }));
     EXPECT_EQ(progress.back().second, 1000);
@@ -87,11 +87,11 @@ TEST_F(MailboxSearchTest, AThousandMailboxesAreFoundWhileEventsRun) {
 TEST_F(MailboxSearchTest, NobodyHearsOfASearchThatWasCancelled) {
     mailbox("12");
     hang();
-    search.begin(kFolder, listener());
+    search.begin(kShare, listener());
     search.cancel();
     beforeEachQuestion = [] {};
     answer();
-    search.begin(kFolder, listener());
+    search.begin(kShare, listener());
     ASSERT_TRUE(isDone());
     EXPECT_THAT(results, testing::ElementsAre(1U));
 }
@@ -99,9 +99,9 @@ TEST_F(MailboxSearchTest, NobodyHearsOfASearchThatWasCancelled) {
 TEST_F(MailboxSearchTest, ANewSearchTakesThePlaceOfTheOneBefore) {
     mailbox("12");
     hang();
-    search.begin(kFolder, listener());
+    search.begin(kShare, listener());
     beforeEachQuestion = [] {};
-    search.begin(kFolder, listener());
+    search.begin(kShare, listener());
     ASSERT_TRUE(isDone());
     EXPECT_THAT(results, testing::ElementsAre(1U));
     answer();
@@ -113,7 +113,7 @@ TEST_F(MailboxSearchTest, AtTheEndTheWaitsForAServerAreEndedAndItsThreadIsJoined
     endWaits = [this] { answer(); };
     {
         MailboxSearch ending([this](const std::string&) { return openShare(); });
-        ending.begin(kFolder, listener());
+        ending.begin(kShare, listener());
     }
     EXPECT_TRUE(isAnswered);
     EXPECT_THAT(results, testing::IsEmpty());
@@ -124,7 +124,7 @@ TEST_F(MailboxSearchTest, AFolderThatHangsKeepsNobodyFromEnding) {
     hang();
     {
         MailboxSearch ending([this](const std::string&) { return openShare(); });
-        ending.begin(kFolder, listener());
+        ending.begin(kShare, listener());
     }
     EXPECT_FALSE(isAnswered);
 }
@@ -132,7 +132,7 @@ TEST_F(MailboxSearchTest, AFolderThatHangsKeepsNobodyFromEnding) {
 TEST_F(MailboxSearchTest, NoSearchBeginsAfterTheEnd) {
     mailbox("12");
     search.end();
-    search.begin(kFolder, listener());
+    search.begin(kShare, listener());
     EXPECT_FALSE(search.isSearching());
     EXPECT_THAT(results, testing::IsEmpty());
 }
