@@ -76,6 +76,21 @@ std::vector<RowPointer> TableContents::emptiedMaps() const {
     return maps;
 }
 
+std::vector<PageNumber> TableContents::longValueBitmapPages() const {
+    std::vector<PageNumber> pages;
+    for (const UsageMap& map : longValueMaps)
+        append(pages, map.bitmapPages());
+    return pages;
+}
+
+std::vector<PageNumber> TableContents::mapPages() const {
+    std::vector<PageNumber> pages = longValueBitmapPages();
+    for (const auto* maps : {&rowMaps, &indexMaps, &longValueMaps})
+        for (const UsageMap& map : *maps)
+            pages.push_back(map.where().page);
+    return pages;
+}
+
 bool TableContents::hasLongValues() const {
     return std::ranges::any_of(longValueMaps, [](const UsageMap& map) { return !map.pages().empty(); });
 }

@@ -29,6 +29,11 @@ struct TableContents {
     std::vector<PageNumber> emptiedPages() const;
     // Where the maps of rows and indexes lie.
     std::vector<RowPointer> emptiedMaps() const;
+    // The bitmap pages of the maps of long values, which stay as well.
+    std::vector<PageNumber> longValueBitmapPages() const;
+    // The pages on which the maps lie, of rows, indexes and long values, and the bitmap pages that stay. A
+    // page may be in it several times.
+    std::vector<PageNumber> mapPages() const;
     bool hasLongValues() const;
 };
 

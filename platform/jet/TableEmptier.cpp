@@ -4,7 +4,7 @@
 
 #include "platform/basic/RuntimeError.h"
 #include "platform/jet/Catalog.h"
-#include "platform/jet/DataPageSpace.h"
+#include "platform/jet/DataPage.h"
 #include "platform/jet/IndexPage.h"
 #include "platform/jet/PageUndo.h"
 #include "platform/jet/TableDefinitionReader.h"
@@ -17,6 +17,10 @@
 
 namespace jet {
 namespace {
+
+bool isAmong(const std::vector<PageNumber>& pages, PageNumber page) {
+    return std::ranges::find(pages, page) != pages.end();
+}
 
 PageNumber findTable(share::File& file, std::string_view table) {
     refuseUnwritable(file);
@@ -32,7 +36,8 @@ TableEmptier::TableEmptier(share::File& file, std::string_view table)
 TableEmptier::TableEmptier(share::File& file, PageNumber definitionPage, std::string_view table)
     : m_file(file), m_name(table), m_cache(file),
       m_table(TableDefinitionReader(m_cache).read(definitionPage, table)),
-      m_contents(TableContents::read(m_cache, m_table, table)), m_others(m_cache, definitionPage) {
+      m_contents(TableContents::read(m_cache, m_table, table)), m_mapPages(m_contents.mapPages()),
+      m_others(m_cache, definitionPage) {
     refuseUnlessPlain();
     refuseForeignPages();
 }
@@ -48,17 +53,27 @@ void TableEmptier::refuseUnlessPlain() const {
                 " cannot be deleted, another table has records that are related to them");
 }
 
-// What is about to be freed must be this table's alone, or another one would lose it.
+// What is about to be freed must be this table's alone, or another one would lose it; and so must what is
+// about to be replaced or wiped.
 void TableEmptier::refuseForeignPages() const {
     const std::vector<PageNumber> pages = m_contents.emptiedPages();
     for (std::size_t i = 0; i < pages.size(); ++i) {
-        if (m_others.isUsed(pages[i]) || std::ranges::count(m_table.pages, pages[i]) != 0)
+        if (m_others.isUsed(pages[i]) || isKept(pages[i]))
             fail(pages[i], "the page is listed as the table's, but has another use");
         if (i > 0 && pages[i] == pages[i - 1])
             fail(pages[i], "the table uses the page twice");
         if (m_others.freePages().contains(pages[i]))
             fail(pages[i], "the page is the table's, but marked free");
     }
+    for (const auto& own : {m_table.pages, m_contents.longValueBitmapPages()})
+        for (const PageNumber page : own)
+            if (m_others.isUsed(page))
+                fail(page, "the page is the table's, but another one's as well");
+}
+
+// The table cannot be read without the page, whatever becomes of its rows: at least until the switch.
+bool TableEmptier::isKept(PageNumber page) const {
+    return isAmong(m_table.pages, page) || isAmong(m_mapPages, page);
 }
 
 bool TableEmptier::isDone() {
@@ -78,14 +93,20 @@ bool TableEmptier::isEmptyIndex(PageNumber root) {
     return page.isEmptyLeaf() && page.owner() == m_table.page();
 }
 
+// Everything that can find fault with the file is made before the switch.
 void TableEmptier::run(const std::function<void()>& announce) {
+    const std::vector<PageNumber> oldMapPages = unusedMapPages();
+    std::vector<UsageMapRow> longValueMaps = filledLongValueMaps();
     PageAllocator allocator(m_cache);
     const DefinitionSwitch change(m_cache, allocator, m_table, emptied(allocator));
     writeNewPages();
     writeSwitch(change);
     announce();
-    emptyLongValueMaps();
-    freeOldPages(change);
+    empty(longValueMaps);
+    for (const auto& pages : {m_contents.emptiedPages(), change.replacedPages(), oldMapPages})
+        for (const PageNumber page : pages)
+            allocator.release(page);
+    m_cache.flush();
 }
 
 TableDefinition TableEmptier::emptied(PageAllocator& allocator) {
@@ -102,7 +123,7 @@ TableDefinition TableEmptier::emptied(PageAllocator& allocator) {
 // that are about to be emptied is in that map: refuseForeignPages().
 void TableEmptier::refuseUsedPages() const {
     for (const PageNumber page : m_cache.newPages())
-        if (m_others.isUsed(page) || std::ranges::count(m_table.pages, page) != 0)
+        if (m_others.isUsed(page) || isKept(page))
             fail(page, "the page is marked free, but in use");
 }
 
@@ -122,26 +143,23 @@ void TableEmptier::writeSwitch(const DefinitionSwitch& change) {
     m_file.sync();
 }
 
+std::vector<UsageMapRow> TableEmptier::filledLongValueMaps() {
+    std::vector<UsageMapRow> rows;
+    for (const UsageMap& map : m_contents.longValueMaps)
+        if (!map.pages().empty())
+            rows.emplace_back(m_cache, map.where(), WriteStage::UsageMaps);
+    return rows;
+}
+
 // Bits only: wherever a write of them is cut, every bit that is left stands for a page that is still theirs.
-void TableEmptier::emptyLongValueMaps() {
-    for (const UsageMap& map : m_contents.longValueMaps) {
-        if (map.pages().empty())
-            continue;
-        UsageMapRow row(m_cache, map.where(), WriteStage::UsageMaps);
+void TableEmptier::empty(std::vector<UsageMapRow>& maps) {
+    for (UsageMapRow& row : maps) {
         if (row.isInline())
             row.editInlineBits().clear();
         for (std::uint32_t i = 0; !row.isInline() && i < row.bitmapCount(); ++i)
             if (row.bitmapPage(i) != 0)
                 row.editBitmap(i).clear();
     }
-    m_cache.flush();
-}
-
-void TableEmptier::freeOldPages(const DefinitionSwitch& change) {
-    PageAllocator allocator(m_cache);
-    for (const auto& pages : {m_contents.emptiedPages(), change.replacedPages(), unusedMapPages()})
-        for (const PageNumber page : pages)
-            allocator.release(page);
     m_cache.flush();
 }
 
@@ -154,8 +172,8 @@ std::vector<PageNumber> TableEmptier::unusedMapPages() {
     std::vector<PageNumber> pages;
     for (const auto& [page, rows] : rowsByPage) {
         PageBuffer buffer;
-        const DataPageSpace space(m_cache.page(page, buffer), {m_cache.name(), m_name, page});
-        if (space.slotCount() == rows.size() && !m_others.isUsed(page))
+        const DataPage maps(m_cache.page(page, buffer), {m_cache.name(), m_name, page});
+        if (maps.slotCount() == rows.size() && !m_others.isUsed(page))
             pages.push_back(page);
     }
     return pages;

@@ -38,12 +38,13 @@ private:
     void refuseUnlessPlain() const;
     void refuseForeignPages() const;
     void refuseUsedPages() const;
+    bool isKept(PageNumber page) const;
     bool isEmptyIndex(PageNumber root);
     TableDefinition emptied(PageAllocator& allocator);
     void writeNewPages();
     void writeSwitch(const DefinitionSwitch& change);
-    void emptyLongValueMaps();
-    void freeOldPages(const DefinitionSwitch& change);
+    std::vector<UsageMapRow> filledLongValueMaps();
+    void empty(std::vector<UsageMapRow>& maps);
     std::vector<PageNumber> unusedMapPages();
     [[noreturn]] void fail(PageNumber page, const std::string& what) const;
 
@@ -52,6 +53,7 @@ private:
     WriteCache m_cache;
     TableDefinition m_table;
     TableContents m_contents;
+    std::vector<PageNumber> m_mapPages;
     PageUse m_others;
 };
 

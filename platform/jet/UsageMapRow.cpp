@@ -35,7 +35,7 @@ UsageMapRow::UsageMapRow(WriteCache& cache, RowPointer where, WriteStage stage)
     m_start = page.u16(slot) & dataPage::kOffsetMask;
     const std::size_t end =
         where.row == 0 ? page::kSize : page.u16(slot - dataPage::kSlotSize) & dataPage::kOffsetMask;
-    if (m_start > end || end > page::kSize || end - m_start <= usageMap::kBitmap)
+    if (m_start > end || end > page::kSize || end - m_start < usageMap::kBitmap)
         page.fail("the usage map lies outside the page");
     m_size = end - m_start;
     if (read()[usageMap::kType] > std::byte{usageMap::kReference})

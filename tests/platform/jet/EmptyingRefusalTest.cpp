@@ -69,10 +69,11 @@ protected:
         PageReader pages(m_file, 0);
         return UsageMap::read(pages, map).pages().front();
     }
-    void listAsData(PageNumber page) {
+    void listAsData(PageNumber page) { listAsData(m_log.ownedMap, page); }
+    void listAsData(RowPointer map, PageNumber page) {
         WriteCache cache(m_file);
         PageAllocator allocator(cache);
-        UsageMapWriter(cache, allocator, m_log.ownedMap).add(page);
+        UsageMapWriter(cache, allocator, map).add(page);
         cache.flush();
     }
     void markFree(PageNumber page) {
@@ -84,6 +85,19 @@ protected:
         const FileImage before = m_file.bytes();
         EXPECT_EQ(basic::errorOf([&] { TableEmptier(m_file, kLog); }), basic::kProviderFailure);
         EXPECT_EQ(m_file.bytes(), before);
+    }
+    // When it comes to taking new pages.
+    void expectNotEmptied() {
+        const FileImage before = m_file.bytes();
+        EXPECT_EQ(basic::errorOf([&] { emptyLog(m_file); }), basic::kProviderFailure);
+        EXPECT_EQ(m_file.bytes(), before);
+    }
+    // The page with the bits of its long values.
+    PageNumber becomeLeastMap() {
+        m_file.write(0, leastMapDatabase(5));
+        m_log = definitionOf(m_file, kLog);
+        PageReader pages(m_file, 0);
+        return UsageMap::read(pages, m_log.longValueMaps.back().owned).bitmapPages().front();
     }
 
     share::MemoryFile m_file{callLogDatabase(5)};
@@ -112,9 +126,39 @@ TEST_F(DamagedTable, IsRefusedWhenItsPageIsMarkedFree) {
 
 TEST_F(DamagedTable, IsRefusedWhenItsDefinitionIsMarkedFree) {
     markFree(m_log.page());
-    const FileImage before = m_file.bytes();
-    EXPECT_EQ(basic::errorOf([&] { emptyLog(m_file); }), basic::kProviderFailure);
-    EXPECT_EQ(m_file.bytes(), before);
+    expectNotEmptied();
+}
+
+// All of its maps are on it, and those of the long values stay there.
+TEST_F(DamagedTable, IsRefusedWhenItListsThePageOfItsMaps) {
+    listAsData(m_log.ownedMap.page);
+    expectRefused();
+}
+
+TEST_F(DamagedTable, IsRefusedWhenThePageOfItsMapsIsMarkedFree) {
+    markFree(m_log.ownedMap.page);
+    expectNotEmptied();
+}
+
+TEST_F(DamagedTable, IsRefusedWhenItListsABitmapPageOfItsLongValues) {
+    listAsData(becomeLeastMap());
+    expectRefused();
+}
+
+TEST_F(DamagedTable, IsRefusedWhenABitmapPageOfItsLongValuesIsMarkedFree) {
+    markFree(becomeLeastMap());
+    expectNotEmptied();
+}
+
+TEST_F(DamagedTable, IsRefusedWhenAnotherTableListsItsDefinition) {
+    listAsData(definitionOf(m_file, "MailboxInfo").ownedMap, m_log.page());
+    expectRefused();
+}
+
+TEST_F(DamagedTable, IsRefusedWhenAnotherTableListsABitmapPageOfItsLongValues) {
+    const PageNumber bitmap = becomeLeastMap();
+    listAsData(definitionOf(m_file, "MailboxInfo").ownedMap, bitmap);
+    expectRefused();
 }
 
 TEST(TableEmptier, RefusesToTakeAPageThatIsWronglyMarkedFree) {

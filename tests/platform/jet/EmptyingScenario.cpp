@@ -2,11 +2,14 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "tests/platform/jet/EmptyingScenario.h"
 
+#include "platform/jet/ByteEditor.h"
 #include "platform/jet/CommitWordWriter.h"
+#include "platform/jet/DataPageAppend.h"
 #include "platform/jet/DatabaseBuilder.h"
 #include "platform/jet/TableEmptier.h"
 #include "platform/jet/TableWriter.h"
 #include "platform/jet/UsageMapRow.h"
+#include "tests/platform/jet/StoredDefinition.h"
 #include "tests/platform/jet/WrittenDatabase.h"
 #include "tools/demo/CallLogTable.h"
 
@@ -95,6 +98,27 @@ FileImage fullMapDatabase() {
                     WriteStage::GlobalMap);
     for (PageNumber page = used; page < kPages; ++page)
         map.editInlineBits().set(page, false); // pages that are nobody's occur in sound databases
+    cache.flush();
+    return file.bytes();
+}
+
+FileImage leastMapDatabase(int calls) {
+    share::MemoryFile file(callLogDatabase(calls));
+    const TableDefinition log = definitionOf(file, kLog);
+    const RowPointer old = log.longValueMaps.back().owned;
+    WriteCache cache(file);
+    const PageNumber bitmap = PageAllocator(cache).allocate();
+    const BitSpan bits = UsageMapRow::initialiseBitmap(cache.edit(bitmap, WriteStage::NewPage));
+    const UsageMap listed = UsageMap::read(cache, old);
+    for (const PageNumber page : listed.pages())
+        bits.set(page, true);
+    std::array<std::byte, format::usageMap::kPointers + format::usageMap::kPointerSize> row{};
+    ByteEditor(row).put8(format::usageMap::kType, format::usageMap::kReference);
+    ByteEditor(row).put32(format::usageMap::kPointers, bitmap);
+    const RowPointer map{old.page, appendRow(cache.edit(old.page, WriteStage::UsageMaps), row, {})};
+    constexpr std::size_t kBothPointers = 10; // before the end, behind them the mark of the list's end
+    const std::size_t end = ByteView(log.bytes, {}).u32(format::definition::kLength);
+    ByteEditor(cache.edit(log.page(), WriteStage::Definition)).put32(end - kBothPointers, map.stored());
     cache.flush();
     return file.bytes();
 }

@@ -28,6 +28,9 @@ FileImage threePageDatabase(int calls);
 // With so many pages that the map of free pages has to change its kind for the next one.
 FileImage fullMapDatabase();
 
+// With the least map of long values that there can be: a row with the number of one bitmap page, no more.
+FileImage leastMapDatabase(int calls);
+
 // A row for the table CallLog of a database.
 std::vector<basic::Variant> anyRow(const TableDefinition& log, const std::string& callId,
                                    std::size_t note = 10);

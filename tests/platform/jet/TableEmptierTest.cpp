@@ -97,6 +97,15 @@ TEST(TableEmptier, PassesOverABrokenEntryOfLongValues) {
     EXPECT_TRUE(TableEmptier(broken, kLog).isDone());
 }
 
+TEST(TableEmptier, EmptiesTheLeastMapOfLongValues) {
+    share::MemoryFile file(leastMapDatabase(5));
+    ASSERT_NO_THROW(checkDatabase(file));
+    emptyLog(file);
+    EXPECT_TRUE(readRows(file, kLog).empty());
+    EXPECT_TRUE(TableEmptier(file, kLog).isDone());
+    EXPECT_NO_THROW(checkDatabase(file));
+}
+
 TEST(TableEmptier, SeesThatThereIsNothingToDo) {
     share::MemoryFile file(callLogDatabase(5));
     EXPECT_FALSE(TableEmptier(file, kLog).isDone());
