@@ -48,7 +48,8 @@ off_t checkedOffset(std::uint64_t offset, std::uint64_t length, const std::strin
 
 } // namespace
 
-std::unique_ptr<LocalFile> LocalFile::open(const std::string& path, OpenMode mode, std::string shownName) {
+std::unique_ptr<LocalFile> LocalFile::open(const std::string& path, OpenMode mode, std::string shownName,
+                                           MountInfo mounts) {
     if (path.find('\0') != std::string::npos)
         throw basic::RuntimeError(basic::kPathFileAccess, "open: a file name with a zero character");
     FileDescriptor descriptor(openRetrying(path, flagsFor(mode)));
@@ -61,7 +62,8 @@ std::unique_ptr<LocalFile> LocalFile::open(const std::string& path, OpenMode mod
         throw basic::errorFromErrno(EISDIR, "open", shownName);
     if (!S_ISREG(status.st_mode))
         throw basic::RuntimeError(basic::kPathFileAccess, "open: " + shownName + ": Not a regular file");
-    return std::unique_ptr<LocalFile>(new LocalFile(std::move(descriptor), std::move(shownName)));
+    return std::unique_ptr<LocalFile>(
+        new LocalFile(std::move(descriptor), std::move(shownName), std::move(mounts)));
 }
 
 std::uint64_t LocalFile::size() {
@@ -106,6 +108,8 @@ void LocalFile::sync() {
 }
 
 bool LocalFile::lock(std::uint64_t offset, std::uint64_t length, LockKind kind) {
+    if (!locksAreShared())
+        return false;
     const int failure = setLock(kind == LockKind::Shared ? F_RDLCK : F_WRLCK, offset, length);
     switch (failure) {
     case 0:
@@ -120,6 +124,16 @@ bool LocalFile::lock(std::uint64_t offset, std::uint64_t length, LockKind kind) 
     default:
         throw basic::errorFromErrno(failure, "lock", m_name);
     }
+}
+
+bool LocalFile::locksAreShared() {
+    if (!m_locksAreShared) {
+        struct stat status {};
+        if (::fstat(m_descriptor.get(), &status) != 0)
+            throw basic::errorFromErrno(errno, "lock", m_name);
+        m_locksAreShared = !m_mounts || MountTable(m_mounts()).locksAreShared(status.st_dev);
+    }
+    return *m_locksAreShared;
 }
 
 void LocalFile::unlock(std::uint64_t offset, std::uint64_t length) {

@@ -98,7 +98,7 @@ void LocalFileSystemObject::DeleteFile(std::string_view pattern, bool force) {
 
 std::unique_ptr<File> LocalFileSystemObject::openFile(std::string_view path, OpenMode mode) {
     const UncPath name = UncPath::parse(path);
-    return LocalFile::open(placeFor(name, mode), mode, name.text());
+    return LocalFile::open(placeFor(name, mode), mode, name.text(), m_resolver.mountInfo());
 }
 
 std::string LocalFileSystemObject::placeFor(const UncPath& path, OpenMode mode) const {

@@ -2,8 +2,11 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "platform/share/MountTable.h"
 
+#include <sys/sysmacros.h>
+
 #include <algorithm>
 #include <array>
+#include <charconv>
 #include <fstream>
 #include <iterator>
 #include <optional>
@@ -12,6 +15,10 @@ namespace share {
 namespace {
 
 constexpr std::array<std::string_view, 2> kShareTypes{"cifs", "smb3"};
+// Locks stay here, or reading does not ask the server (cache=).
+constexpr std::array<std::string_view, 6> kOptionsWithoutLocks{
+    "nobrl", "cache=loose", "cache=singleclient", "nolock", "local_lock=all", "local_lock=posix"};
+constexpr std::size_t kDeviceField = 2;
 constexpr std::size_t kRootField = 3;
 constexpr std::size_t kMountPointField = 4;
 constexpr std::size_t kFirstOptionalField = 6;
@@ -55,30 +62,89 @@ std::vector<std::string> pathParts(std::string_view escaped) {
     return parts;
 }
 
-std::optional<ShareMount> shareMount(std::string_view line) {
+struct MountLine {
+    std::string_view device;
+    std::string_view root;
+    std::string_view mountPoint;
+    std::string_view type;
+    std::string_view source;
+    std::string_view options; // of the file system
+};
+
+std::optional<MountLine> mountLine(std::string_view line) {
     const std::vector<std::string_view> fields = splitAt(line, " ");
     if (fields.size() < kFirstOptionalField)
         return std::nullopt;
     const auto dash = std::find(fields.begin() + kFirstOptionalField, fields.end(), "-");
-    if (fields.end() - dash < 3 ||
-        std::find(kShareTypes.begin(), kShareTypes.end(), dash[1]) == kShareTypes.end())
+    const auto behind = fields.end() - dash;
+    if (behind < 3)
         return std::nullopt;
-    std::vector<std::string> source = pathParts(dash[2]);
+    return MountLine{fields[kDeviceField],     fields[kRootField], fields[kMountPointField], dash[1], dash[2],
+                     behind > 3 ? dash[3] : ""};
+}
+
+template <typename Known, typename Value>
+bool isOneOf(const Known& known, const Value& value) {
+    return std::find(known.begin(), known.end(), value) != known.end();
+}
+
+std::optional<ShareMount> shareMount(const MountLine& line) {
+    if (!isOneOf(kShareTypes, line.type))
+        return std::nullopt;
+    std::vector<std::string> source = pathParts(line.source);
     if (source.size() < 2)
         return std::nullopt;
-    ShareMount mount{source[0], source[1], {}, unescaped(fields[kMountPointField])};
+    ShareMount mount{source[0], source[1], {}, unescaped(line.mountPoint)};
     mount.below.assign(source.begin() + 2, source.end());
-    for (std::string& part : pathParts(fields[kRootField]))
+    for (std::string& part : pathParts(line.root))
         mount.below.push_back(std::move(part));
     return mount;
+}
+
+std::optional<unsigned> number(std::string_view digits) {
+    unsigned value = 0;
+    const auto [end, failure] = std::from_chars(digits.data(), digits.data() + digits.size(), value);
+    if (failure != std::errc() || end != digits.data() + digits.size())
+        return std::nullopt;
+    return value;
+}
+
+std::optional<dev_t> deviceOf(std::string_view field) {
+    const std::size_t colon = std::min(field.find(':'), field.size());
+    const std::optional<unsigned> major = number(field.substr(0, colon));
+    const std::optional<unsigned> minor = number(field.substr(std::min(colon + 1, field.size())));
+    if (!major || !minor)
+        return std::nullopt;
+    return makedev(*major, *minor);
+}
+
+// A program's own file system (FUSE) may pass locks on or not; nothing tells which. Those on a disk of this
+// machine (fuseblk) have nobody to pass them on to.
+bool keepsLocks(const MountLine& line) {
+    if (line.type == "fuse" || line.type.starts_with("fuse."))
+        return true;
+    const std::vector<std::string_view> options = splitAt(line.options, ",");
+    return std::ranges::any_of(options,
+                               [](std::string_view option) { return isOneOf(kOptionsWithoutLocks, option); });
 }
 
 } // namespace
 
 MountTable::MountTable(std::string_view mountInfo) {
-    for (std::string_view line : splitAt(mountInfo, "\n"))
-        if (std::optional<ShareMount> mount = shareMount(line))
+    for (const std::string_view text : splitAt(mountInfo, "\n")) {
+        const std::optional<MountLine> line = mountLine(text);
+        if (!line)
+            continue;
+        if (std::optional<ShareMount> mount = shareMount(*line))
             m_shares.push_back(std::move(*mount));
+        const std::optional<dev_t> device = deviceOf(line->device);
+        if (device && keepsLocks(*line))
+            m_withoutLocks.push_back(*device);
+    }
+}
+
+bool MountTable::locksAreShared(dev_t device) const {
+    return !isOneOf(m_withoutLocks, device);
 }
 
 std::string MountTable::systemText() {

@@ -1,10 +1,13 @@
 // SPDX-FileCopyrightText: 2026 The qmClient authors
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
-// The mounted network shares of this machine, read from the text of /proc/self/mountinfo. A mount may begin
-// below the share (//server/share/sub), and a bind mount may show a part of one. Lines that cannot be read
-// are passed over. Format: proc(5), "/proc/pid/mountinfo".
+// The mounted network shares of this machine and what their locks are worth, read from the text of
+// /proc/self/mountinfo. A mount may begin below the share (//server/share/sub), and a bind mount may show a
+// part of one. Lines that cannot be read are passed over. Format: proc(5), "/proc/pid/mountinfo".
 
+#include <sys/types.h>
+
+#include <functional>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -18,6 +21,9 @@ struct ShareMount {
     std::string mountPoint;
 };
 
+// Where the text comes from; asked for each question, because mounts come and go.
+using MountInfo = std::function<std::string()>;
+
 class MountTable {
 public:
     explicit MountTable(std::string_view mountInfo);
@@ -25,11 +31,16 @@ public:
     // In the order of mounting.
     const std::vector<ShareMount>& shares() const noexcept { return m_shares; }
 
+    // False for the files of a mount whose locks hold among the programs of this machine only, and of one
+    // that shows what it remembers in place of what the server has by now. They cannot be told by trying.
+    bool locksAreShared(dev_t device) const;
+
     // The table's text of this process; empty where it cannot be read.
     static std::string systemText();
 
 private:
     std::vector<ShareMount> m_shares;
+    std::vector<dev_t> m_withoutLocks;
 };
 
 } // namespace share

@@ -3,7 +3,6 @@
 #include "platform/share/ShareResolver.h"
 
 #include "platform/basic/TextCompare.h"
-#include "platform/share/MountTable.h"
 
 #include <algorithm>
 

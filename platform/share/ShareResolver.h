@@ -5,6 +5,7 @@
 // call-log share, by a mount of the share found on this machine, or else from the server itself. The mount
 // table is read anew for each question, because shares come and go with the network.
 
+#include "platform/share/MountTable.h"
 #include "platform/share/UncPath.h"
 
 #include <functional>
@@ -30,12 +31,12 @@ class ShareResolver {
 public:
     // The folder that stands for \\server\Quillamar_0$, if the administrator mapped one.
     using Mapping = std::function<std::optional<std::string>(std::string_view server)>;
-    using MountInfo = std::function<std::string()>;
 
     ShareResolver(Mapping mapping, MountInfo mountInfo)
         : m_mapping(std::move(mapping)), m_mountInfo(std::move(mountInfo)) {}
 
     Route resolve(const UncPath& path) const;
+    const MountInfo& mountInfo() const noexcept { return m_mountInfo; }
 
 private:
     std::optional<Route> mapped(const UncPath& path) const;

@@ -3,6 +3,7 @@
 #include "platform/share/MountTable.h"
 
 #include <gmock/gmock.h>
+#include <sys/sysmacros.h>
 
 namespace share {
 namespace {
@@ -36,6 +37,36 @@ TEST(MountTable, KeepsWhatLiesBetweenShareAndMount) {
     ASSERT_THAT(table.shares(), SizeIs(2));
     EXPECT_THAT(table.shares()[0].below, ElementsAre("sub", "deep"));
     EXPECT_THAT(table.shares()[1].below, ElementsAre("MBX"));
+}
+
+class MountWithoutLocks : public ::testing::TestWithParam<const char*> {};
+
+TEST_P(MountWithoutLocks, IsKnownByItsDevice) {
+    const MountTable table("22 1 8:1 / / rw,relatime shared:1 - ext4 /dev/sda1 rw\n"
+                           "41 22 0:40 / /mnt/q rw shared:9 - " +
+                           std::string(GetParam()) + "\n");
+    EXPECT_FALSE(table.locksAreShared(::makedev(0, 40)));
+    EXPECT_TRUE(table.locksAreShared(::makedev(8, 1)));
+    EXPECT_TRUE(table.locksAreShared(::makedev(40, 0)));
+}
+
+INSTANTIATE_TEST_SUITE_P(Lines, MountWithoutLocks,
+                         ::testing::Values("cifs //srv/share rw,vers=3.1.1,nobrl,actimeo=1",
+                                           "smb3 //srv/share rw,nobrl", "cifs //srv/share rw,cache=loose",
+                                           "cifs //srv/share cache=singleclient", "fuse x rw,user_id=0",
+                                           "fuse.sshfs srv:/share rw", "nfs srv:/share rw,local_lock=all",
+                                           "nfs srv:/share rw,vers=3,local_lock=posix,nolock"));
+
+TEST(MountTable, LocksOfOtherMountsAreShared) {
+    for (const char* line : {"cifs //srv/share rw,vers=3.1.1,cache=strict", "cifs //srv/nobrl rw",
+                             "smb3 //srv/share rw,nobrlx", "ext4 /dev/sda1 rw", "fuseblk /dev/sdb1 rw",
+                             "nfs4 srv:/share rw,local_lock=none", "cifs //srv/share", "cifs", ""})
+        EXPECT_TRUE(MountTable("41 22 0:40 / /m rw - " + std::string(line)).locksAreShared(::makedev(0, 40)))
+            << line;
+    for (const char* device : {"0", "x:40", "0:", ":40", "0:40x", "0:99999999999"})
+        EXPECT_TRUE(MountTable("41 22 " + std::string(device) + " / /m rw - fuse x rw")
+                        .locksAreShared(::makedev(0, 40)))
+            << device;
 }
 
 TEST(MountTable, PassesOverLinesThatCannotBeRead) {

@@ -16,7 +16,7 @@ ShareResolver::Mapping mappingOf(std::string_view server, std::string folder) {
     };
 }
 
-ShareResolver::MountInfo mountsOf(std::string text) {
+MountInfo mountsOf(std::string text) {
     return [text] { return text; };
 }
 

@@ -62,6 +62,20 @@ TEST_F(OtherUserTest, FailedCommitCanBeTriedAgainOrGivenUp) {
     m_connection.Close();
 }
 
+// The server would not know of them, so it could be in the database as well.
+TEST_F(OtherUserTest, LocksThatHoldOnThisMachineOnlyAreNone) {
+    const FileImage before = m_database.bytes();
+    m_database.mountAs("cifs //srv/Quillamar_0$ rw,vers=3.1.1,nobrl");
+    EXPECT_THAT(failureOf([&] { execute(kDelete); }), HasSubstr("files cannot be locked there"));
+    EXPECT_ERROR(basic::kProviderFailure, execute(kInsert));
+    EXPECT_EQ(m_pauses, 0);
+    EXPECT_EQ(m_database.bytes(), before);
+    EXPECT_EQ(std::get<std::int32_t>(execute("SELECT COUNT(*) FROM CallLog")->Field(0)), kCalls);
+    m_database.mountAs("cifs //srv/Quillamar_0$ rw,vers=3.1.1");
+    execute(kDelete);
+    EXPECT_EQ(m_database.rowCount(), 0U);
+}
+
 TEST_F(OtherUserTest, StaleEntryKeepsNobodyOut) {
     {
         OtherUser other(openLockFile(share::OpenMode::Create));

@@ -4,15 +4,26 @@
 
 #include "platform/basic/RuntimeError.h"
 
+#include <sys/stat.h>
+#include <sys/sysmacros.h>
+
 #include <filesystem>
 
 namespace jet::test {
 SharedDatabase::SharedDatabase(const FileImage& image)
     : files(share::ShareResolver([this](std::string_view) { return m_folder.path("share"); },
-                                 [] { return std::string(); })) {
+                                 [this] { return m_mounts; })) {
     std::filesystem::create_directories(m_folder.path("share/MBX"));
     std::filesystem::create_directory_symlink(m_folder.path("."), m_folder.path("share/MBX/7"));
     setBytes(image);
+}
+
+void SharedDatabase::mountAs(std::string_view typeSourceAndOptions) {
+    struct stat status {};
+    ASSERT_EQ(::stat(m_folder.path().c_str(), &status), 0);
+    m_mounts = "41 22 " + std::to_string(::major(status.st_dev)) + ":" +
+               std::to_string(::minor(status.st_dev)) + " / /mnt/elsewhere rw - ";
+    m_mounts.append(typeSourceAndOptions).append("\n");
 }
 
 FileImage SharedDatabase::bytes() const {

@@ -36,10 +36,14 @@ public:
     // The output of mdb-json for a table.
     std::string json(const std::string& table) const;
 
+    // The line of this machine's mounts for the folder, as if it were of another kind.
+    void mountAs(std::string_view typeSourceAndOptions);
+
     share::LocalFileSystemObject files;
 
 private:
     TemporaryFolder m_folder;
+    std::string m_mounts;
 };
 
 } // namespace jet::test
