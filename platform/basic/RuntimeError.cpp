@@ -18,6 +18,9 @@ std::int32_t numberFor(int errnoValue) {
     case EPERM:
     case EROFS:
         return kPermissionDenied;
+    case EBUSY: // a mounted share's answers while somebody has the file for himself
+    case ETXTBSY:
+        return kFileAlreadyOpen;
     case ENOSPC:
     case EDQUOT:
         return kDiskFull;

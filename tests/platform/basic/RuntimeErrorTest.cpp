@@ -24,6 +24,9 @@ TEST(RuntimeError, ErrnoBecomesThePlatformsNumberWithContext) {
     EXPECT_EQ(errorFromErrno(EACCES, "open", "/x").number(), kPermissionDenied);
     EXPECT_EQ(errorFromErrno(ENOSPC, "write", "/x").number(), kDiskFull);
     EXPECT_EQ(errorFromErrno(EINVAL, "write", "/x").number(), kPathFileAccess);
+    // What a mounted share answers while somebody has the file for himself.
+    EXPECT_EQ(errorFromErrno(EBUSY, "open", "/x").number(), kFileAlreadyOpen);
+    EXPECT_EQ(errorFromErrno(ETXTBSY, "open", "/x").number(), kFileAlreadyOpen);
     EXPECT_EQ(errorFromErrno(ENOENT, "open", "/x").description(), "open: /x: No such file or directory");
 }
 
