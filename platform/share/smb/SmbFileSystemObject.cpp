@@ -98,8 +98,10 @@ std::unique_ptr<File> SmbFileSystemObject::openFile(std::string_view path, OpenM
     }
 }
 
+// A whole folder may take half a minute; the question before finds out sooner that the server is not there.
 std::vector<FolderEntry> SmbFileSystemObject::list(const UncPath& folder) {
     try {
+        ask(folder, {.verb = Verb::Stat}, "list");
         const std::uint32_t number = m_servers.server(folder.server()).newHandle();
         Response page = ask(folder, {.verb = Verb::List, .handle = number}, "list");
         std::vector<FolderEntry> entries = decodeFolderPage(page.data);

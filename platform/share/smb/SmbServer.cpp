@@ -14,7 +14,7 @@ namespace share::smb {
 namespace {
 
 // Others' requests come first, each within its deadline; more than that is a knot.
-constexpr std::chrono::milliseconds kLongestTurn{20'000};
+constexpr std::chrono::milliseconds kLongestTurn{50'000};
 // A connection that was idle for so long may be gone without a word: the machine slept, a firewall forgot it.
 // A new one is quicker than finding out.
 constexpr std::chrono::milliseconds kLongestIdle{90'000};
@@ -92,7 +92,8 @@ Response SmbServer::exchange(const Request& request, Waiter& waiter) {
     wipe(packet.data(), packet.size());
     if (!isSent)
         return lost(ECONNABORTED);
-    switch (waiter.untilReadable(m_helper->socket().descriptor(), m_surroundings.deadline)) {
+    const auto deadline = request.verb == Verb::List ? m_surroundings.listDeadline : m_surroundings.deadline;
+    switch (waiter.untilReadable(m_helper->socket().descriptor(), deadline)) {
     case Waited::TimeOver:
         return lost(ETIMEDOUT);
     case Waited::Cancelled:

@@ -35,6 +35,8 @@ public:
     struct Surroundings {
         std::string program; // qmshare
         std::chrono::milliseconds deadline{3'000};
+        // For the request that fetches a whole folder; whoever makes it makes sure of the server before.
+        std::chrono::milliseconds listDeadline{30'000};
         ElapsedTime now = bootTime;
         BackOff::Spread spread;
         CredentialSource credentials;

@@ -4,6 +4,8 @@
 
 #include "tests/platform/share/smb/SmbTest.h"
 
+#include <gmock/gmock.h>
+
 #include <chrono>
 #include <csignal>
 #include <thread>
@@ -94,6 +96,23 @@ TEST_F(SmbServerTest, GivesUpAStoppedServerAtTheDeadlineAndFindsItAgain) {
     EXPECT_EQ(m_client.server().helperId(), -1);
     m_client.letPass(1s);
     EXPECT_TRUE(isThere());
+}
+
+// Ten thousand names through a slow line take their time, a dead server must not have as much.
+TEST_F(SmbServerTest, HasMoreTimeForAFolderOnceItHasAnswered) {
+    NotedWaiter waiter;
+    smb::SmbFileSystemObject files(m_client.servers(), waiter);
+    files.SubFolders(onShare(""));
+    EXPECT_THAT(waiter.allowed, ::testing::ElementsAre(3s, 3s, 30s)) << "log-on, look, list";
+}
+
+TEST_F(SmbServerTest, IsGivenUpAtTheDeadlineWhenAFolderIsAskedFor) {
+    SmbClient client(m_samba.port(), "127.0.0.1", 300ms);
+    NotedWaiter waiter;
+    smb::SmbFileSystemObject files(client.servers(), waiter);
+    m_samba.pause();
+    EXPECT_ERROR(basic::kPathNotFound, files.SubFolders(onShare("")));
+    EXPECT_THAT(waiter.allowed, ::testing::ElementsAre(300ms, 300ms));
 }
 
 TEST_F(SmbServerTest, IsTriedAtOnceForTheUser) {

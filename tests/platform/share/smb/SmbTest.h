@@ -50,6 +50,20 @@ private:
     smb::SmbFileSystemObject m_files{m_servers, m_waiter};
 };
 
+// Waits as usual and keeps the times that were allowed.
+class NotedWaiter final : public smb::Waiter {
+public:
+    smb::Waited untilReadable(int descriptor, std::chrono::milliseconds atMost) override {
+        allowed.push_back(atMost);
+        return m_waiter.untilReadable(descriptor, atMost);
+    }
+
+    std::vector<std::chrono::milliseconds> allowed;
+
+private:
+    smb::ThreadWaiter m_waiter;
+};
+
 // A name on the server's share.
 inline std::string onShare(std::string_view below) {
     return std::string("\\\\srv01\\Quillamar_0$").append(below.empty() ? "" : "\\").append(below);
