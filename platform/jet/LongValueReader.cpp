@@ -12,12 +12,19 @@ namespace jet {
 namespace layout = format::longValue;
 
 std::span<const std::byte> LongValueReader::read(std::span<const std::byte> field, const Place& place) {
+    const std::span<const std::byte> value = find(field, place);
+    m_bytesRead += value.size();
+    return value;
+}
+
+std::span<const std::byte> LongValueReader::find(std::span<const std::byte> field, const Place& place) {
     // Fields shorter than the header occur in sound databases and stand for no text.
     if (field.size() < layout::kHeaderSize)
         return {};
     const ByteView view(field, place);
     const std::uint32_t stored = view.u32(layout::kLength);
-    const std::size_t length = stored & layout::kLengthMask;
+    const std::size_t length =
+        std::min<std::size_t>(stored & layout::kLengthMask, m_source.pageCount() * format::page::kSize);
     const RowPointer where = RowPointer::fromStored(view.u32(layout::kRow));
     switch (stored & layout::kKindMask) {
     case layout::kInline:

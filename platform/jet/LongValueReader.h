@@ -3,8 +3,8 @@
 #pragma once
 // Fetches memos and OLE objects, which lie in the row itself, in one row of a long-value page or in a chain
 // of such rows. What comes back is never longer than the length stored in the row, nor than what the pages
-// hold; a chain that meets itself is an error. The source must outlive the reader, which keeps one page and
-// the last value. Layout: docs/jet4-format.md, "Long values".
+// hold, nor than the file; a chain that meets itself is an error. The source must outlive the reader, which
+// keeps one page and the last value. Layout: docs/jet4-format.md, "Long values".
 
 #include "platform/jet/ByteView.h"
 #include "platform/jet/PageSource.h"
@@ -23,7 +23,11 @@ public:
     // the row is.
     std::span<const std::byte> read(std::span<const std::byte> field, const Place& place);
 
+    // Of all answers so far, as they are stored.
+    std::uint64_t bytesRead() const noexcept { return m_bytesRead; }
+
 private:
+    std::span<const std::byte> find(std::span<const std::byte> field, const Place& place);
     ByteView row(RowPointer where, const Place& place);
     std::span<const std::byte> readChain(RowPointer first, std::size_t length, const Place& place);
 
@@ -32,6 +36,7 @@ private:
     std::optional<PageNumber> m_bufferedPage;
     std::optional<PageBytes> m_page;
     std::vector<std::byte> m_value;
+    std::uint64_t m_bytesRead = 0;
 };
 
 } // namespace jet

@@ -21,6 +21,9 @@ public:
     // For text and memo columns: appends UTF-8 without making a value of it. False for a null.
     bool appendTextOf(std::string& to, const RowView& row, const Column& column);
 
+    // Of all long values so far, as they are stored.
+    std::uint64_t longValueBytesRead() const noexcept { return m_longValues.bytesRead(); }
+
 private:
     LongValueReader m_longValues;
 };

@@ -8,7 +8,6 @@
 #include "platform/jet/sql/Binder.h"
 #include "platform/jet/sql/FieldType.h"
 #include "platform/jet/sql/KeyLookup.h"
-#include "platform/jet/sql/RowOrder.h"
 
 #include <algorithm>
 
@@ -35,6 +34,20 @@ std::string nameOf(const SelectedExpression& item, std::size_t position) {
     return "Expr" + std::to_string(kFirstUnnamed + position);
 }
 
+template <typename Visit>
+void forEachColumn(const Expression& expression, const Visit& visit) {
+    if (const auto* name = std::get_if<ColumnName>(&expression.node))
+        visit(*name->column);
+    else if (const auto* negation = std::get_if<Negation>(&expression.node))
+        forEachColumn(*negation->operand, visit);
+    else if (const auto* test = std::get_if<NullTest>(&expression.node))
+        forEachColumn(*test->operand, visit);
+    else if (const auto* operation = std::get_if<Operation>(&expression.node)) {
+        forEachColumn(*operation->left, visit);
+        forEachColumn(*operation->right, visit);
+    }
+}
+
 } // namespace
 
 TableRows::Access::Access(std::unique_ptr<StatementPages> heldPages, const TableDefinition& definition,
@@ -49,10 +62,14 @@ TableRows::TableRows(std::shared_ptr<Select> select, TableDefinition definition)
 
 void TableRows::bind() {
     const Binder binder(m_definition, m_select->table);
-    if (m_select->condition)
+    if (m_select->condition) {
         binder.bindCondition(*m_select->condition);
-    for (OrderColumn& column : m_select->order)
+        forEachColumn(*m_select->condition, [this](const Column& column) { countLongValue(column); });
+    }
+    for (OrderColumn& column : m_select->order) {
         binder.bind(column.name);
+        countLongValue(*column.name.column);
+    }
     for (SelectItem& item : m_select->items)
         if (auto* selected = std::get_if<SelectedExpression>(&item))
             binder.bind(*selected->expression);
@@ -72,21 +89,12 @@ void TableRows::addItem(const SelectItem& item, std::vector<ResultColumn>& colum
     } else if (const auto* selected = std::get_if<SelectedExpression>(&item)) {
         columns.push_back({nameOf(*selected, columns.size()), typeOf(*selected->expression)});
         m_sources.push_back({nullptr, selected->expression.get()});
-        needColumnsOf(*selected->expression);
+        forEachColumn(*selected->expression, [this](const Column& column) { need(column); });
     }
 }
 
-void TableRows::needColumnsOf(const Expression& expression) {
-    if (const auto* name = std::get_if<ColumnName>(&expression.node))
-        need(*name->column);
-    else if (const auto* negation = std::get_if<Negation>(&expression.node))
-        needColumnsOf(*negation->operand);
-    else if (const auto* test = std::get_if<NullTest>(&expression.node))
-        needColumnsOf(*test->operand);
-    else if (const auto* operation = std::get_if<Operation>(&expression.node)) {
-        needColumnsOf(*operation->left);
-        needColumnsOf(*operation->right);
-    }
+void TableRows::countLongValue(const Column& column) {
+    m_longValuesToChoose += column.isLongValue() ? 1U : 0U;
 }
 
 void TableRows::need(const Column& column) {
@@ -134,12 +142,7 @@ bool TableRows::takeRows(const std::vector<RowPointer>& candidates) {
     for (const RowPointer& candidate : candidates) {
         if (!m_access->scan.moveTo(candidate))
             return false;
-        const RowView& row = m_access->scan.row();
-        if (!m_access->evaluator.holds(*m_select->condition, row))
-            continue;
-        checkRow(row);
-        order.add(m_access->decoder, row);
-        m_rows.push_back(candidate);
+        takeRow(candidate, order);
     }
     order.apply(m_rows);
     return !m_rows.empty();
@@ -150,15 +153,20 @@ void TableRows::readAll(PageReader& reader) {
     m_access.emplace(std::make_unique<StatementPages>(reader, pagesToRead(reader)), m_definition,
                      m_select->table);
     RowOrder order(m_select->order);
-    while (m_access->scan.next()) {
-        const RowView& row = m_access->scan.row();
-        if (m_select->condition && !m_access->evaluator.holds(*m_select->condition, row))
-            continue;
+    while (m_access->scan.next())
+        takeRow(m_access->scan.position(), order);
+    order.apply(m_rows);
+}
+
+// The row that the scan stands at, if it is one of those asked for.
+void TableRows::takeRow(RowPointer where, RowOrder& order) {
+    const RowView& row = m_access->scan.row();
+    if (!m_select->condition || m_access->evaluator.holds(*m_select->condition, row)) {
         checkRow(row);
         order.add(m_access->decoder, row);
-        m_rows.push_back(m_access->scan.position());
+        m_rows.push_back(where);
     }
-    order.apply(m_rows);
+    refuseSharedLongValues(row);
 }
 
 // Decodes what is cheap and finds what is not.
@@ -171,6 +179,15 @@ void TableRows::checkRow(const RowView& row) {
         else if (!row.isNull(*column))
             m_access->longValues.read(row.field(*column), row.place());
     }
+}
+
+// Every long value is one row's, so all of them together are no larger than the file. Rows that share one
+// would make a small file as slow as a huge one.
+void TableRows::refuseSharedLongValues(const RowView& row) const {
+    const std::uint64_t held = std::uint64_t{m_access->pages->pageCount()} * format::page::kSize;
+    if (m_access->longValues.bytesRead() > held ||
+        m_access->decoder.longValueBytesRead() > m_longValuesToChoose * held)
+        row.place().fail("the long values of several rows lie in the same place");
 }
 
 basic::Variant TableRows::value(std::size_t row, std::size_t column) {

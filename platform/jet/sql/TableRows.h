@@ -10,6 +10,7 @@
 #include "platform/jet/TableScan.h"
 #include "platform/jet/ValueDecoder.h"
 #include "platform/jet/sql/Evaluator.h"
+#include "platform/jet/sql/RowOrder.h"
 #include "platform/jet/sql/Statement.h"
 
 #include <memory>
@@ -49,19 +50,22 @@ private:
 
     void bind();
     void addItem(const SelectItem& item, std::vector<ResultColumn>& columns);
-    void needColumnsOf(const Expression& expression);
+    void countLongValue(const Column& column);
     void need(const Column& column);
     std::vector<PageNumber> pagesToRead(PageReader& reader) const;
     bool readByIndex(PageReader& reader);
     bool takeRows(const std::vector<RowPointer>& candidates);
     void readAll(PageReader& reader);
+    void takeRow(RowPointer where, RowOrder& order);
     void checkRow(const RowView& row);
+    void refuseSharedLongValues(const RowView& row) const;
     void goTo(std::size_t row);
 
     std::shared_ptr<Select> m_select;
     TableDefinition m_definition;
     std::vector<Source> m_sources;
-    std::vector<const Column*> m_needed; // columns whose values can be asked for
+    std::vector<const Column*> m_needed;    // columns whose values can be asked for
+    std::uint64_t m_longValuesToChoose = 0; // how many of each row its choice and order may look at
     std::optional<Access> m_access;
     std::vector<RowPointer> m_rows;
     std::optional<std::size_t> m_currentRow; // where the scan stands

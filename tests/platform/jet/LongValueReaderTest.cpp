@@ -56,6 +56,22 @@ TEST_F(LongValueReaderOfChain, ReadsAChain) {
     EXPECT_EQ(reads, 2U);
 }
 
+// The rows of a damaged page can lie one in the other: each of these holds all that come after it.
+TEST_F(LongValueReaderOfChain, NeverAnswersMoreThanTheFileHolds) {
+    constexpr std::uint8_t kParts = 40;
+    constexpr unsigned kFirst = 1000;
+    image.putRows(2, kLvalOwner, std::vector<test::Bytes>(2 * kParts, test::fromHex("00")));
+    for (std::uint8_t i = 0; i < kParts; ++i) {
+        const std::size_t slot = format::dataPage::kSlots + format::dataPage::kSlotSize * 2 * i;
+        const unsigned start = kFirst + 8U * i;
+        image.putU16(2, slot, format::page::kSize); // where the next one ends
+        image.putU16(2, slot + format::dataPage::kSlotSize, start);
+        const RowPointer next{2, static_cast<std::uint8_t>(2 * i + 3)};
+        image.putU32(2, start, i + 1 < kParts ? next.stored() : 0);
+    }
+    EXPECT_EQ(readFrom(format::longValue::kLengthMask, {2, 1}).size(), image.bytes.size());
+}
+
 TEST_F(LongValueReaderOfChain, NeverAnswersMoreThanTheStatedLength) {
     EXPECT_EQ(readFrom(kSingle | 2, {1, 0}), "ab");
     EXPECT_EQ(readFrom(3, {2, 0}), "def");
