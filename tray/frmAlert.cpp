@@ -92,7 +92,7 @@ void frmAlert::ShowForm() {
     proc.step([&] { taskbar = m_desktop.FindWindowExA("Shell_TrayWnd"); });
     proc.step([&] { screen = m_desktop.GetWindowRect(m_desktop.GetDesktopWindow()); });
     proc.step([&] {
-        adjustSize();
+        fitText();
         left = Twips{basic::fromPixels(screen.right).value - basic::fromPixels(width()).value};
         top = Twips{basic::fromPixels(screen.bottom).value - basic::fromPixels(height()).value};
     });
@@ -107,6 +107,14 @@ void frmAlert::ShowForm() {
     proc.step([&] { forms::showNonModal(*this); });
     proc.step([&] { m_desktop.clearOwner(*this); });
     proc.step([&] { m_desktop.makeTopMost(*this); });
+}
+
+// At once: the box would tell the window only later that its text has another width, and the window would
+// then leave the place that it was given for the old one.
+void frmAlert::fitText() {
+    ensurePolished();
+    m_Shape1->layout()->activate();
+    adjustSize();
 }
 
 void frmAlert::Label1_Click() {

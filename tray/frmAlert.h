@@ -38,6 +38,7 @@ protected:
 
 private:
     void layOut();
+    void fitText();
     void Label1_Click();
     void Label2_Click();
     void leave(errors::Procedure& proc, bool ShowList);

@@ -53,6 +53,16 @@ class PlaceTest(unittest.TestCase):
             program.send('alert You have  4  new calls')
             wait_corner(desktop, (1024, 768 - 24))
 
+    def test_keeps_its_edge_at_the_screen_when_its_text_becomes_wider(self):
+        with Desktop(size='1024x768') as desktop:
+            program = TrayProgram(desktop)
+            program.send('alert You have  9  new calls')
+            wait_corner(desktop, (1024, 768))
+            width = shown(desktop).width
+            program.send('alert You have  1234567  new calls')
+            wait_until(lambda: shown(desktop).width > width, 'the wider text')
+            wait_corner(desktop, (1024, 768))
+
     def test_counts_in_logical_pixels_at_twice_the_scale(self):
         with Desktop(size='1600x1200', tray='trayer') as desktop:
             TrayProgram(desktop, {'QT_SCALE_FACTOR': '2'}).send('alert You have  3  new calls')

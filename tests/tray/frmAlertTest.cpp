@@ -6,6 +6,7 @@
 #include "resources/StringTable.h"
 
 #include <QAbstractButton>
+#include <QCoreApplication>
 #include <QDialog>
 #include <QLabel>
 
@@ -82,6 +83,15 @@ protected:
         m_alert.ShowForm();
         return m_desktop.place;
     }
+    // Once the layouts have done what they put off until then.
+    int rightEdgeWith(const QString& text) {
+        m_alert.lblInfo().setText(text);
+        const int left = placeWith(std::nullopt).left;
+        do
+            QCoreApplication::processEvents();
+        while (m_alert.width() != m_alert.sizeHint().width());
+        return left + m_alert.width();
+    }
     QAbstractButton& link(const QString& name) { return *m_alert.findChild<QAbstractButton*>(name); }
 
     Recorder m_errors;
@@ -137,6 +147,18 @@ TEST_F(frmAlertTest, MovesAndStaysWhenItIsShownAgain) {
     EXPECT_EQ(place.bottom, 738);
     EXPECT_EQ(place.right, 1024);
     EXPECT_TRUE(m_alert.isVisible());
+}
+
+TEST_F(frmAlertTest, IsPlacedByTheWidthOfItsNewTextWhileItIsUp) {
+    for (const QString& text : {u"You have  9  new calls"_qs, u"You have  10  new calls"_qs,
+                                u"You have  1234567  new calls"_qs, u"You have  1  new calls"_qs})
+        EXPECT_EQ(rightEdgeWith(text), 1024);
+}
+
+TEST_F(frmAlertTest, IsPlacedByTheWidthOfItsNewTextWhenItComesUpAgain) {
+    EXPECT_EQ(rightEdgeWith(u"You have  12  new calls"_qs), 1024);
+    link(u"Label1"_qs).click();
+    EXPECT_EQ(rightEdgeWith(u"You have  1  new calls"_qs), 1024);
 }
 
 TEST_F(frmAlertTest, TheCloseLinkHidesItAndThenRaisesShowWithFalse) {
