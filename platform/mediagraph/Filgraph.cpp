@@ -31,7 +31,9 @@ std::shared_ptr<const ItemCollection<IFilterInfo>> Filgraph::FilterCollection() 
 
 std::shared_ptr<const ItemCollection<IRegFilterInfo>> Filgraph::RegFilterCollection() {
     return std::make_shared<const ItemCollection<IRegFilterInfo>>(
-        registeredFilters(weak_from_this(), m_services->devices.look()));
+        [graph = weak_from_this(), services = m_services] {
+            return registeredFilters(graph, services->devices.look());
+        });
 }
 
 double Filgraph::Duration() {

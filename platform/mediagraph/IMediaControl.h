@@ -28,9 +28,9 @@ public:
 
     // The filters now in the graph, in the order in which they were put in.
     virtual std::shared_ptr<const ItemCollection<IFilterInfo>> FilterCollection() const = 0;
-    // kFileSourceName first, then one renderer for each output device there is now, in the order of the
-    // device list. Takes a bounded look at the sound server; without one there are no renderers, and no
-    // error.
+    // kFileSourceName first, then one renderer for each output device, in the order of the device list.
+    // When it is first counted or read it takes a bounded look at the sound server; without one there are
+    // no renderers, and no error.
     virtual std::shared_ptr<const ItemCollection<IRegFilterInfo>> RegFilterCollection() = 0;
 };
 

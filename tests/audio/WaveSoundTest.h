@@ -32,9 +32,10 @@ protected:
 
     explicit WaveSoundTest(SoundServer::Begin begin = SoundServer::Begin::Started) : world(begin) {}
 
-    void makeWave() {
-        wave = std::make_shared<ReachableWave>(WaveServices{
-            errorHandler, settings.boxes, world.sound().graphs(), devices, settings.values, clock});
+    void makeWave() { makeWave(world.sound().graphs()); }
+    void makeWave(mediagraph::MediaGraphs& graphs) {
+        wave = std::make_shared<ReachableWave>(
+            WaveServices{errorHandler, settings.boxes, graphs, devices, settings.values, clock});
         QObject::connect(wave.get(), &clsWave::PlayDone, [this] { ++done; });
         QObject::connect(wave.get(), &clsWave::Progress, [this](basic::Currency, basic::Currency seconds) {
             places.push_back(static_cast<double>(seconds.tenThousandths) / 10'000);

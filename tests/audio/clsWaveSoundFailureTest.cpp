@@ -96,6 +96,33 @@ TEST_F(FailedWaveTest, PreferredDeviceThatIsNotThereIsReportedByItsName) {
     EXPECT_TRUE(wave->IsPlaying());
 }
 
+// The real graphs, which count how often the sound server is asked for its devices.
+class CountedGraphs final : public mediagraph::MediaGraphs {
+public:
+    explicit CountedGraphs(SoundWorld& world) : m_world(world) {}
+    std::shared_ptr<mediagraph::FilgraphManager> newFilgraphManager() override {
+        return m_world.newGraph(mediagraph::DeviceList({[this] {
+            ++looks;
+            return mediagraph::DeviceList::fromPulse();
+        }}));
+    }
+    int looks = 0;
+
+private:
+    SoundWorld& m_world;
+};
+
+// It may hang, and then the end of the program would wait for it.
+TEST_F(FailedWaveTest, EndOfTheEngineAsksTheSoundServerNothing) {
+    CountedGraphs graphs(world);
+    makeWave(graphs);
+    EXPECT_TRUE(play(world.makeMessage(5)));
+    EXPECT_EQ(graphs.looks, 1);
+    EXPECT_TRUE(wave->UnInit());
+    wave.reset();
+    EXPECT_EQ(graphs.looks, 1);
+}
+
 class SilentWaveTest : public WaveSoundTest {
 protected:
     SilentWaveTest() : WaveSoundTest(SoundServer::Begin::Off) { makeWave(); }

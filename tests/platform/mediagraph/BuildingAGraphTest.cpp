@@ -38,6 +38,21 @@ TEST(BuildingAGraph, OffersTheFileSourceAndARendererForEachDevice) {
     EXPECT_EQ(graph->FilterCollection()->Count(), 0);
 }
 
+// A graph that is made for nobody asks no sound server, which might hang.
+TEST(BuildingAGraph, LooksForDevicesOnceSomebodyReadsTheRegisteredFilters) {
+    SoundWorld world;
+    int looks = 0;
+    const auto graph = world.newGraph(DeviceList({[&looks] {
+        ++looks;
+        return std::optional(std::vector<OutputDevice>{{"Headset", "pulsesink", "headset"}});
+    }}));
+    const auto filters = graph->RegFilterCollection();
+    EXPECT_EQ(looks, 0);
+    EXPECT_EQ(filters->Count(), 2);
+    EXPECT_EQ(filters->Item(1)->Name(), "Headset");
+    EXPECT_EQ(looks, 1);
+}
+
 TEST(BuildingAGraph, NamesRenderersAsTheDeviceListDoes) {
     SoundWorld world;
     const auto filters = world.sound().graphs().newFilgraphManager()->RegFilterCollection();

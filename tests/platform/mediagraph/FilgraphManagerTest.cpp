@@ -31,5 +31,26 @@ TEST(ItemCollection, CountsFromZeroAndRefusesWhatIsNotInIt) {
     EXPECT_EQ(basic::errorOf([&] { items.Item(-1); }), 9);
 }
 
+TEST(ItemCollection, IsLookedForWhenItIsFirstCountedOrReadAndThenStays) {
+    int looks = 0;
+    const ItemCollection<int> items([&looks] { return std::vector{std::make_shared<int>(++looks)}; });
+    EXPECT_EQ(looks, 0);
+    EXPECT_EQ(*items.Item(0), 1);
+    for (const auto& item : items)
+        EXPECT_EQ(*item, 1);
+    EXPECT_EQ(items.Count(), 1);
+}
+
+TEST(ItemCollection, IsLookedForAgainAfterALookThatFailed) {
+    int looks = 0;
+    const ItemCollection<int> items([&looks]() -> std::vector<std::shared_ptr<int>> {
+        if (++looks == 1)
+            throw basic::RuntimeError(basic::kDeviceIoError);
+        return {std::make_shared<int>(7)};
+    });
+    EXPECT_EQ(basic::errorOf([&] { items.begin(); }), basic::kDeviceIoError);
+    EXPECT_EQ(items.Count(), 1);
+}
+
 } // namespace
 } // namespace mediagraph
