@@ -21,6 +21,10 @@ QString minutesAndSeconds(double seconds) {
         .arg(whole % kSecondsPerMinute, 2, 10, QLatin1Char('0'));
 }
 
+double percentOf(const ctlAudio& control) {
+    return control.isActive() ? control.fraction() * kPercent : 0;
+}
+
 QAccessibleInterface* makeAccess(const QString&, QObject* object) {
     auto* control = qobject_cast<ctlAudio*>(object);
     return control == nullptr ? nullptr : new PositionAccess(*control);
@@ -38,7 +42,7 @@ void PositionAccess::install() {
 void PositionAccess::tellChange(ctlAudio& control) {
     if (!QAccessible::isActive())
         return;
-    QAccessibleValueChangeEvent event(&control, control.fraction() * kPercent);
+    QAccessibleValueChangeEvent event(&control, percentOf(control));
     QAccessible::updateAccessibility(&event);
 }
 
@@ -55,7 +59,7 @@ QString PositionAccess::spokenPosition() const {
         return {};
     return forms::toQString(resources::LoadLocalString(5017, "%1 of %2"))
         .arg(minutesAndSeconds(m_control.positionSeconds()),
-             minutesAndSeconds(std::round(m_control.lengthSeconds()))); // worked out from a rounded fraction
+             minutesAndSeconds(std::round(m_control.lengthSeconds())));
 }
 
 void* PositionAccess::interface_cast(QAccessible::InterfaceType type) {
@@ -65,7 +69,7 @@ void* PositionAccess::interface_cast(QAccessible::InterfaceType type) {
 }
 
 QVariant PositionAccess::currentValue() const {
-    return m_control.isActive() ? m_control.fraction() * kPercent : 0;
+    return percentOf(m_control);
 }
 
 void PositionAccess::setCurrentValue(const QVariant& value) {

@@ -17,7 +17,7 @@ public:
 
     // From now on the toolkit finds this class for every player; more than once is the same as once.
     static void install();
-    // Tells listening programs that the position changed.
+    // Tells listening programs the position that there is now.
     static void tellChange(ctlAudio& control);
 
     QString text(QAccessible::Text kind) const override;

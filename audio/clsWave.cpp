@@ -255,8 +255,8 @@ void clsWave::Timer1_ThatTime() {
 
 // A file without a length has no fractions: it is at its beginning.
 void clsWave::tellProgress() {
-    const double duration = position()->Duration();
-    const double fraction = duration == 0 ? 0 : m_CurrentDuration / duration;
+    m_lengthSeconds = position()->Duration();
+    const double fraction = m_lengthSeconds == 0 ? 0 : m_CurrentDuration / m_lengthSeconds;
     Q_EMIT Progress(toCurrency(fraction), toCurrency(m_CurrentDuration));
 }
 

@@ -76,6 +76,8 @@ public:
     std::int32_t LastPlayDuration() const noexcept { return m_LastPlayDuration; }
     const std::string& CurrentFile() const noexcept { return m_CurrentFile; }
     double CurrentDuration() const noexcept { return m_CurrentDuration; }
+    // The file's, as it was at the last Progress.
+    double lengthSeconds() const noexcept { return m_lengthSeconds; }
     forms::Timer& Timer1() noexcept { return m_Timer1; }
 
 Q_SIGNALS:
@@ -124,6 +126,7 @@ private:
     basic::Date m_PlayStart;
     std::int32_t m_LastPlayDuration = 0;
     double m_CurrentDuration = 0; // the position, in seconds
+    double m_lengthSeconds = 0;
     std::string m_CurrentFile;
     std::string m_RecordFileName;
 };

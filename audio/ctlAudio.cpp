@@ -18,6 +18,8 @@
 #include <QPainter>
 #include <QStyleOptionFocusRect>
 
+#include <utility>
+
 namespace audio {
 namespace {
 
@@ -53,6 +55,7 @@ ctlAudio::ctlAudio(const PlayerServices& services, QWidget* parent)
     m_lblPos->setAttribute(Qt::WA_NoMousePropagation);
     m_lblPos->hide();
     PositionAccess::install();
+    connect(this, &ctlAudio::positionTold, this, [this] { PositionAccess::tellChange(*this); });
     UserControl_Initialize();
 }
 
@@ -139,6 +142,7 @@ void ctlAudio::Backward() {
 void ctlAudio::tellState(errors::Procedure& proc) {
     proc.step([&] { Q_EMIT StateChanged(); });
     proc.step([&] { Draw(); });
+    proc.step([&] { tellEnd(); });
 }
 
 void ctlAudio::WaveObject_PlayDone() {
@@ -159,11 +163,13 @@ void ctlAudio::WaveObject_Progress(basic::Currency Percent, basic::Currency Dura
 void ctlAudio::tellPosition(basic::Currency before) {
     constexpr std::int64_t kOnePercent = 100;
     if (before.tenThousandths / kOnePercent != m_Percent.tenThousandths / kOnePercent)
-        PositionAccess::tellChange(*this);
+        Q_EMIT positionTold();
 }
 
-double ctlAudio::lengthSeconds() const {
-    return m_Percent.tenThousandths == 0 ? 0 : m_positionSeconds / fraction();
+// The position is gone then.
+void ctlAudio::tellEnd() {
+    if (std::exchange(m_wasActive, isActive()) && !isActive())
+        Q_EMIT positionTold();
 }
 
 void ctlAudio::layOut() {

@@ -63,7 +63,7 @@ public:
     void seek(double fraction);
     // Position and length in seconds, as far as they are known: 0 and 0 before the first Progress.
     double positionSeconds() const { return m_positionSeconds; }
-    double lengthSeconds() const;
+    double lengthSeconds() const { return m_WaveObject ? m_WaveObject->lengthSeconds() : 0; }
     double fraction() const { return toDouble(m_Percent); }
 
     const FrameDrawing& frame() const { return m_frame; }
@@ -74,6 +74,8 @@ public:
 
 Q_SIGNALS:
     void StateChanged();
+    // For who cannot see the marker: the position is at another whole percent, or gone.
+    void positionTold();
 
 protected:
     void resizeEvent(QResizeEvent* event) override;
@@ -92,6 +94,7 @@ private:
     void layOut();
     void tellState(errors::Procedure& proc);
     void tellPosition(basic::Currency before);
+    void tellEnd();
 
     PlayerServices m_services;
     QFrame* m_picTop;
@@ -104,6 +107,7 @@ private:
     std::unique_ptr<forms::Timer> m_Timer; // nothing handles its ticks
     basic::Currency m_Percent;
     double m_positionSeconds = 0;
+    bool m_wasActive = false;
     double m_clickX = 0; // of the last press, in twips from the track's left edge
 };
 

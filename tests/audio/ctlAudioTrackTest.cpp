@@ -131,6 +131,41 @@ TEST_F(PlayerTest, IsASliderWithANameAndAValueToAssistivePrograms) {
     EXPECT_EQ(slider->valueInterface()->currentValue().toDouble(), 0);
 }
 
+TEST_F(PlayerTest, SpeaksTheLengthToTheSecondFromTheFirstOneOn) {
+    QAccessibleInterface* slider = QAccessible::queryAccessibleInterface(player.get());
+    ASSERT_NE(slider, nullptr);
+    play();
+    sound.duration = 600;
+    for (const double seconds : {0.0, 0.5, 0.9}) {
+        sound.position = seconds;
+        tick();
+        EXPECT_EQ(slider->text(QAccessible::Value), QStringLiteral("0:00 of 10:00"));
+    }
+}
+
+TEST_F(PlayerTest, TellsAssistiveProgramsWholePercentsAndOnceThatThePositionIsGone) {
+    QAccessibleInterface* slider = QAccessible::queryAccessibleInterface(player.get());
+    ASSERT_NE(slider, nullptr);
+    std::vector<double> told;
+    QObject::connect(player.get(), &ctlAudio::positionTold,
+                     [&] { told.push_back(slider->valueInterface()->currentValue().toDouble()); });
+    play();
+    for (const double seconds : {5.0, 5.05, 5.1}) {
+        sound.position = seconds;
+        tick();
+    }
+    EXPECT_THAT(told, ElementsAre(50, 51));
+    player->StopPlay();
+    player->StopPlay();
+    EXPECT_THAT(told, ElementsAre(50, 51, 0));
+    play();
+    sound.position = 5.1;
+    sound.isRunning = false;
+    sound.ending = mediagraph::EventCode::Complete;
+    tick();
+    EXPECT_THAT(told, ElementsAre(50, 51, 0, 0));
+}
+
 TEST_F(PlayerTest, LeavesOtherKeysToItsWindow) {
     QKeyEvent key(QEvent::KeyPress, Qt::Key_A, Qt::NoModifier);
     QCoreApplication::sendEvent(player.get(), &key);
