@@ -19,7 +19,7 @@ void Playback::want(PlayState state) {
     if (state == PlayState::Playing && m_order.state == PlayState::Playing)
         return; // also at the end: it stays told
     m_hasStarted = false;
-    m_lastTold = m_now();
+    beginPatience();
     m_order.state = state;
     m_order.position = m_position;
     change();
@@ -73,7 +73,7 @@ void Playback::moved(const PlayOrder& order, double seconds) {
     if (!isNewest(order) || m_end)
         return;
     m_position = std::clamp(seconds, 0.0, m_duration);
-    m_lastTold = m_now();
+    beginPatience();
     m_hasStarted = true;
 }
 
@@ -103,8 +103,7 @@ void Playback::wake() {
 
 // The playing thread may hang in the sound server, so the user-interface thread looks at the clock itself.
 void Playback::watchThread() {
-    const bool isSilent = m_now() - m_lastTold > kSilenceLimit;
-    if (m_order.state != PlayState::Playing || m_end || !isSilent)
+    if (m_order.state != PlayState::Playing || m_end || !m_patience.isOver(0, m_now()))
         return;
     fail(basic::RuntimeError(basic::kMediaTimeout, m_hasStarted
                                                        ? "The sound server stopped playing."

@@ -7,6 +7,7 @@
 // newest is dropped. Positions are seconds. The groups below say which thread calls what.
 
 #include "platform/basic/RuntimeError.h"
+#include "platform/mediagraph/Aside.h"
 #include "platform/mediagraph/IMediaEvent.h"
 
 #include <chrono>
@@ -35,7 +36,8 @@ public:
 
     static constexpr std::chrono::seconds kSilenceLimit{5};
 
-    explicit Playback(double duration, Now now = Clock::now) : m_now(std::move(now)), m_duration(duration) {}
+    explicit Playback(double duration, Now now = Clock::now)
+        : m_now(std::move(now)), m_duration(duration), m_patience(kSilenceLimits, m_now()) {}
 
     // User-interface thread.
     void want(PlayState state);
@@ -43,7 +45,8 @@ public:
     void leave();
     double duration() const noexcept { return m_duration; }
     // Throws a failure that was not told yet, once; also when the playing thread told no position for
-    // kSilenceLimit, be it at the start or later.
+    // kSilenceLimit, be it at the start or later, while this was asked over and over: time in which the
+    // program stood still does not count.
     double position();
     EventCode waitForCompletion(std::chrono::milliseconds timeout);
 
@@ -57,6 +60,9 @@ public:
     void wake();
 
 private:
+    static constexpr WaitLimits kSilenceLimits{kSilenceLimit, kSilenceLimit};
+
+    void beginPatience() { m_patience = Patience(kSilenceLimits, m_now()); }
     void change();
     void watchThread();
     void stop();
@@ -73,7 +79,7 @@ private:
     bool m_isAwake = false;
     double m_position = 0;
     bool m_hasStarted = false;
-    Clock::time_point m_lastTold{}; // while playing
+    Patience m_patience; // while playing, since the playing thread was told or told something
     std::optional<EventCode> m_end;
     std::optional<basic::RuntimeError> m_failure;
 };
