@@ -69,23 +69,24 @@ void HeldInput::stopHolding() {
     QCoreApplication::instance()->removeEventFilter(this);
 }
 
-void HeldInput::handOut() {
-    for (Held& held : std::exchange(m_held, {}))
-        if (held.receiver && !isBlocked(*held.receiver))
-            QCoreApplication::postEvent(held.receiver, held.event.release());
+// Not by way of the event queue: others there may begin a wait, in which it would arrive.
+void HeldInput::handOutNext() {
+    const Held held = std::move(m_held.front());
+    m_held.pop_front();
+    if (held.receiver && !isBlocked(*held.receiver))
+        QCoreApplication::sendEvent(held.receiver, held.event.get());
 }
 
 // The wait does not end before it is answered. A dialog from before, which the end of another one leaves in
 // front, has to wait as its program does.
-bool HeldInput::isOfNewDialog(QObject& receiver) const {
+bool HeldInput::isNewDialogUp() const {
     const QWindow* modal = QGuiApplication::modalWindow();
-    return modal != nullptr && !isBlocked(receiver) &&
-           std::ranges::find(m_before, modal, &QPointer<QWindow>::data) == m_before.end();
+    return modal != nullptr && std::ranges::find(m_before, modal, &QPointer<QWindow>::data) == m_before.end();
 }
 
 bool HeldInput::eventFilter(QObject* receiver, QEvent* event) {
     if (!isInput(*receiver, *event) || QApplication::activePopupWidget() != nullptr ||
-        isNotificationIcon(*receiver) || isOfNewDialog(*receiver))
+        isNotificationIcon(*receiver) || (isNewDialogUp() && !isBlocked(*receiver)))
         return false;
     m_held.push_back({receiver, std::unique_ptr<QEvent>(event->clone())});
     return true;

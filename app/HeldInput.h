@@ -11,6 +11,7 @@
 #include <QPointer>
 #include <QWindow>
 
+#include <deque>
 #include <memory>
 #include <vector>
 
@@ -22,9 +23,10 @@ public:
     // From now on until stopHolding().
     void hold();
     void stopHolding();
-    // To whom it was meant for, from the event loop, as far as they are still there and no dialog is before
-    // them.
-    void handOut();
+    bool isEmpty() const { return m_held.empty(); }
+    // The first of what is kept, to whom it was meant for, if they are still there and no dialog is before
+    // them. What it leads to runs inside of the call. Not while it is empty.
+    void handOutNext();
 
 private:
     struct Held {
@@ -32,10 +34,10 @@ private:
         std::unique_ptr<QEvent> event;
     };
 
-    bool isOfNewDialog(QObject& receiver) const;
+    bool isNewDialogUp() const;
     bool eventFilter(QObject* receiver, QEvent* event) override;
 
-    std::vector<Held> m_held;
+    std::deque<Held> m_held;
     std::vector<QPointer<QWindow>> m_before; // the windows that were there then
 };
 

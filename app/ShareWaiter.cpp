@@ -108,13 +108,19 @@ int ShareWaiter::execHoldingInput(QEventLoop& loop) {
     return end;
 }
 
-// Runs from the event loop. If that is the loop of another wait, the end of that wait calls again.
+// Runs from the event loop, for one thing of what came meanwhile: that may wait in its turn, and what comes
+// after it waits with it. If it is the loop of another wait, the end of that wait calls again.
 void ShareWaiter::settle() {
     if (isWaiting())
         return;
     m_sinceInput.invalidate();
-    m_input.handOut();
-    runNext();
+    if (m_later.empty() && m_input.isEmpty())
+        return;
+    QMetaObject::invokeMethod(this, &ShareWaiter::settle, Qt::QueuedConnection);
+    if (m_later.empty())
+        m_input.handOutNext();
+    else
+        runNext();
 }
 
 void ShareWaiter::afterWaiting(std::function<void()> work) {
@@ -125,14 +131,9 @@ void ShareWaiter::afterWaiting(std::function<void()> work) {
     m_later.push_back(std::move(work));
 }
 
-// As settle().
 void ShareWaiter::runNext() {
-    if (isWaiting() || m_later.empty())
-        return;
     const std::function<void()> work = std::move(m_later.front());
     m_later.pop_front();
-    if (!m_later.empty())
-        QMetaObject::invokeMethod(this, &ShareWaiter::runNext, Qt::QueuedConnection);
     work();
 }
 

@@ -46,7 +46,15 @@ protected:
                                [this, act] { QTimer::singleShot(0, &m_waiter, act); });
         });
     }
-    void click() { QTest::mouseClick(m_button.windowHandle(), Qt::LeftButton, {}, m_button.rect().center()); }
+    static void clickOn(QPushButton& button) {
+        QTest::mouseClick(button.windowHandle(), Qt::LeftButton, {}, button.rect().center());
+    }
+    void click() { clickOn(m_button); }
+    // For an answer that does not come, in a wait of its own that lets events run.
+    void waitInVain() {
+        m_here.receive();
+        EXPECT_EQ(wait(100ms), Waited::TimeOver);
+    }
     bool isClicked() {
         return QTest::qWaitFor([this] { return m_clicks > 0; });
     }
@@ -67,10 +75,35 @@ TEST_F(InputTest, IsHeldInALongWaitAndHandedOutAfterwards) {
 TEST_F(InputTest, IsNotHandedOutInsideOfTheNextWait) {
     whenTheWaitIsLong([this] { click(); });
     EXPECT_EQ(wait(), Waited::Ready);
-    m_here.receive();
-    EXPECT_EQ(wait(100ms), Waited::TimeOver);
+    waitInVain();
     EXPECT_EQ(m_wasWaiting, std::nullopt);
     EXPECT_TRUE(isClicked());
+}
+
+// Two messages that are played one after the other.
+TEST_F(InputTest, IsNotHandedOutInsideOfAWaitThatOneOfItBegins) {
+    QPushButton other;
+    watch(other);
+    other.show();
+    EXPECT_TRUE(QTest::qWaitForWindowExposed(&other));
+    QObject::connect(&m_button, &QPushButton::clicked, &m_button, [this] { waitInVain(); });
+    whenTheWaitIsLong([&] {
+        click();
+        clickOn(other);
+    });
+    EXPECT_EQ(wait(), Waited::Ready);
+    EXPECT_TRUE(QTest::qWaitFor([this] { return m_clicks == 2; }));
+    EXPECT_EQ(m_wasWaiting, false);
+}
+
+TEST_F(InputTest, IsNotHandedOutInsideOfAWaitThatBelatedWorkBegins) {
+    whenTheWaitIsLong([this] {
+        click();
+        m_waiter.afterWaiting([this] { waitInVain(); });
+    });
+    EXPECT_EQ(wait(), Waited::Ready);
+    ASSERT_TRUE(isClicked());
+    EXPECT_EQ(m_wasWaiting, false);
 }
 
 TEST_F(InputTest, OfAShortcutIsHeldToo) {
