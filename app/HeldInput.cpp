@@ -63,10 +63,14 @@ void HeldInput::hold() {
         if (window->isVisible())
             m_before.emplace_back(window);
     QCoreApplication::instance()->installEventFilter(this);
+    m_isHolding = true;
+    showCursor();
 }
 
 void HeldInput::stopHolding() {
     QCoreApplication::instance()->removeEventFilter(this);
+    m_isHolding = false;
+    showCursor();
 }
 
 // Not by way of the event queue: others there may begin a wait, in which it would arrive.
@@ -77,6 +81,16 @@ void HeldInput::handOutNext() {
         QCoreApplication::sendEvent(held.receiver, held.event.get());
 }
 
+void HeldInput::showCursor() {
+    const bool isBusy = m_isHolding && !isNewDialogUp();
+    if (std::exchange(m_isCursorBusy, isBusy) == isBusy)
+        return;
+    if (isBusy)
+        QGuiApplication::setOverrideCursor(Qt::BusyCursor);
+    else
+        QGuiApplication::restoreOverrideCursor();
+}
+
 // The wait does not end before it is answered. A dialog from before, which the end of another one leaves in
 // front, has to wait as its program does.
 bool HeldInput::isNewDialogUp() const {
@@ -85,6 +99,9 @@ bool HeldInput::isNewDialogUp() const {
 }
 
 bool HeldInput::eventFilter(QObject* receiver, QEvent* event) {
+    // A dialog that comes is not a modal window yet, and one that goes may still be.
+    if (event->type() == QEvent::Show || event->type() == QEvent::Hide)
+        QMetaObject::invokeMethod(this, &HeldInput::showCursor, Qt::QueuedConnection);
     if (!isInput(*receiver, *event) || QApplication::activePopupWidget() != nullptr ||
         isNotificationIcon(*receiver) || (isNewDialogUp() && !isBlocked(*receiver)))
         return false;

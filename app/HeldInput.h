@@ -4,7 +4,7 @@
 // Keeps the user's keys and clicks from a program that waits for a server, and hands them out when it waits
 // no more. What the user may always use gets them at once: the notification icon, menus that are open, and a
 // dialog that came up in the wait, as the report of a failure does. Windows can be closed as well, for that
-// is no input. User-interface thread.
+// is no input. The cursor is busy wherever input is kept. User-interface thread.
 
 #include <QEvent>
 #include <QObject>
@@ -35,10 +35,13 @@ private:
     };
 
     bool isNewDialogUp() const;
+    void showCursor();
     bool eventFilter(QObject* receiver, QEvent* event) override;
 
     std::deque<Held> m_held;
     std::vector<QPointer<QWindow>> m_before; // the windows that were there then
+    bool m_isHolding = false;
+    bool m_isCursorBusy = false;
 };
 
 } // namespace app

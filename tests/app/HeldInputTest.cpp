@@ -4,7 +4,9 @@
 #include "tests/app/ShareWaiterTest.h"
 
 #include <QCoreApplication>
+#include <QCursor>
 #include <QDialog>
+#include <QGuiApplication>
 #include <QMenu>
 #include <QPushButton>
 #include <QTest>
@@ -55,6 +57,10 @@ protected:
         m_here.receive();
         EXPECT_EQ(wait(100ms), Waited::TimeOver);
     }
+    static bool isCursorBusy() {
+        const QCursor* cursor = QGuiApplication::overrideCursor();
+        return cursor != nullptr && cursor->shape() == Qt::BusyCursor;
+    }
     bool isClicked() {
         return QTest::qWaitFor([this] { return m_clicks > 0; });
     }
@@ -104,6 +110,36 @@ TEST_F(InputTest, IsNotHandedOutInsideOfAWaitThatBelatedWorkBegins) {
     EXPECT_EQ(wait(), Waited::Ready);
     ASSERT_TRUE(isClicked());
     EXPECT_EQ(m_wasWaiting, false);
+}
+
+TEST_F(InputTest, IsHeldUnderABusyCursor) {
+    whenTheWaitIsLong([] { EXPECT_TRUE(isCursorBusy()); });
+    EXPECT_EQ(wait(), Waited::Ready);
+    EXPECT_FALSE(isCursorBusy());
+}
+
+TEST_F(InputTest, HasItsCursorWhileADialogThatComesUpMeanwhileCanBeAnswered) {
+    QDialog dialog;
+    whenTheWaitIsLong([&] {
+        dialog.open();
+        EXPECT_TRUE(QTest::qWaitFor([] { return !isCursorBusy(); }));
+        dialog.close();
+        EXPECT_TRUE(QTest::qWaitFor(isCursorBusy));
+    });
+    EXPECT_EQ(wait(), Waited::Ready);
+    EXPECT_FALSE(isCursorBusy());
+}
+
+TEST_F(InputTest, HasItsCursorAfterAWaitThatEndsUnderADialog) {
+    QDialog dialog;
+    whenTheWaitIsLong([&] {
+        dialog.open();
+        EXPECT_TRUE(QTest::qWaitFor([] { return !isCursorBusy(); }));
+    });
+    EXPECT_EQ(wait(), Waited::Ready);
+    dialog.close();
+    QCoreApplication::processEvents();
+    EXPECT_FALSE(isCursorBusy());
 }
 
 TEST_F(InputTest, OfAShortcutIsHeldToo) {
