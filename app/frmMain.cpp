@@ -155,6 +155,8 @@ void frmMain::dockPlayer() {
 }
 
 void frmMain::showWindow() {
+    if (m_isUnloaded)
+        return;
     forms::showNonModal(*this);
     setWindowState(windowState() & ~Qt::WindowMinimized);
     raise();

@@ -48,7 +48,10 @@ public:
     // MainProcedures
     void InitData() override { m_mailboxData.InitData(); }
     bool InitConnection() override { return m_mailboxData.InitConnection(); }
-    void LoadList() override { m_callList.LoadList(); }
+    void LoadList() override {
+        if (!m_isUnloaded)
+            m_callList.LoadList();
+    }
     void ChangeItem() override { m_selection.ChangeItem(); }
     void UpdateButtonStates() override { m_buttonStates.UpdateButtonStates(); }
     void mTimer_ThatTime() override;

@@ -4,6 +4,8 @@
 // How the player goes on when the window is hidden, and ends with the program.
 #include "tests/app/MainPlayerTest.h"
 
+#include <QMenu>
+
 namespace app {
 namespace {
 
@@ -65,6 +67,25 @@ TEST_F(MainPlayerTest, CommandsAndTicksDuringTheUnloadDoNothing) {
         EXPECT_EQ(popup(), nullptr);
     };
     window->unload(UnloadMode::Code);
+    EXPECT_TRUE(errorHandler.reports.empty());
+}
+
+TEST_F(MainPlayerTest, PopupAndTrayMenuDuringTheUnloadDoNothing) {
+    loadOne();
+    mailbox(12).append({"C3", "Cleo", 0});
+    tick();
+    ASSERT_NE(popup(), nullptr);
+    mailbox(12).append({"C4", "Dora", 0});
+    const auto rows = column(0).size();
+    onSleep = [&](std::int32_t) {
+        if (popup() != nullptr)
+            clickPopup("Label2");
+        notificationArea.menu->actions().at(0)->trigger();
+        EXPECT_FALSE(window->isVisible());
+        EXPECT_EQ(column(0).size(), rows);
+    };
+    window->unload(UnloadMode::Code);
+    EXPECT_EQ(popup(), nullptr);
     EXPECT_TRUE(errorHandler.reports.empty());
 }
 
