@@ -4,6 +4,7 @@
 
 #include "errors/ErrorsIgnored.h"
 #include "errors/Procedure.h"
+#include "platform/forms/ModalState.h"
 #include "platform/forms/MouseButtons.h"
 #include "resources/LocalText.h"
 
@@ -38,7 +39,7 @@ void TrayEvents::attach(tray::frmSysTray& icon) {
 
 // No trap (frmMain, m_frmSysTray_SysTrayDoubleClick): ignores all errors.
 void TrayEvents::m_frmSysTray_SysTrayDoubleClick() {
-    errors::withErrorsIgnored([this] { m_parts.main.showWindow(); });
+    errors::withErrorsIgnored([this] { show(); });
 }
 
 // No trap (frmMain, m_frmSysTray_SysTrayMouseDown): ignores all errors.
@@ -47,10 +48,16 @@ void TrayEvents::m_frmSysTray_SysTrayMouseDown(tray::frmSysTray& icon, int butto
         errors::withErrorsIgnored([&icon] { icon.ShowMenu(); });
 }
 
+// While a dialog is up the window may not come; the dialog is what is waited for then.
+void TrayEvents::show() {
+    if (!forms::bringModalToFront())
+        m_parts.main.showWindow();
+}
+
 void TrayEvents::m_frmSysTray_MenuClick(const QString& key) {
     errors::Procedure proc{m_parts.errorHandler, "frmMain", "m_frmSysTray_MenuClick"};
     if (key == u"open")
-        proc.step([&] { m_parts.main.showWindow(); });
+        proc.step([&] { show(); });
     else if (key == u"config")
         proc.step([&] { m_parts.main.ab_ToolClick("miVOptions"); });
     else if (key == u"about")

@@ -37,6 +37,7 @@ public:
 private:
     void m_frmSysTray_SysTrayDoubleClick();
     void m_frmSysTray_SysTrayMouseDown(tray::frmSysTray& icon, int button);
+    void show();
     void requestExit();
     void answerDialogs();
 

@@ -7,6 +7,7 @@
 #include <QCoreApplication>
 #include <QDialog>
 #include <QMenu>
+#include <QTest>
 
 namespace app {
 namespace {
@@ -67,6 +68,24 @@ TEST_F(TrayEventsTest, DoubleClickThatFailsIsIgnored) {
     dialog.setModal(true);
     dialog.show();
     notify(kLeftDouble); // no non-modal window while a modal one is up
+    EXPECT_FALSE(window->isVisible());
+    EXPECT_TRUE(errorHandler.reports.empty());
+}
+
+TEST_F(TrayEventsTest, DoubleClickAndViewCallLogBringAModalDialogToTheFront) {
+    QDialog dialog;
+    dialog.setModal(true);
+    dialog.show();
+    const auto comesToTheFront = [&](auto&& action) {
+        QWidget another;
+        another.show();
+        another.activateWindow();
+        EXPECT_TRUE(QTest::qWaitForWindowActive(&another));
+        action();
+        return QTest::qWaitForWindowActive(&dialog);
+    };
+    EXPECT_TRUE(comesToTheFront([this] { notify(kLeftDouble); }));
+    EXPECT_TRUE(comesToTheFront([this] { choose(0); }));
     EXPECT_FALSE(window->isVisible());
     EXPECT_TRUE(errorHandler.reports.empty());
 }
