@@ -73,9 +73,7 @@ class Desktop:
         self.windows = Windows(self.env['DISPLAY'])
         if self._wm:
             self.start(['openbox', '--sm-disable'])
-            for number in (1, 0):
-                wait_until(lambda n=number: self.windows.window_manager_answers(n),
-                           'the window manager to answer')
+            wait_until(self.windows.window_manager_answers, 'the window manager to answer')
         self.tray = Tray(self.windows, self.start, self.env, self.folder)
         if self._accessibility:
             self.reader().ask('programs')

@@ -7,6 +7,7 @@ import re
 from .xconnection import EVENT_PROPERTY, XConnection
 
 _USER_CLOSES = 2
+_DESKTOPS = 2  # no window manager begins with so many
 
 
 @dataclasses.dataclass
@@ -46,14 +47,15 @@ class Windows:
     def selection_owner(self, name):
         return self._x.selection_owner(name)
 
-    def window_manager_answers(self, desktop):
-        """Asks it to switch the desktop, true once it has.
+    def window_manager_answers(self):
+        """Asks it for another number of desktops, true once it has it.
 
-        Its announcement is not enough: a window that is mapped before it listens is never managed.
+        Its announcement is not enough: a window that is mapped before it listens is never managed. Switching
+        the desktop would show its name in the middle of the screen for a while, above the client's dialogs.
         """
-        if self._x.numbers(self._x.root, '_NET_CURRENT_DESKTOP') == [desktop]:
+        if self._x.numbers(self._x.root, '_NET_NUMBER_OF_DESKTOPS') == [_DESKTOPS]:
             return True
-        self._x.tell_window_manager(self._x.root, '_NET_CURRENT_DESKTOP', desktop, 0)
+        self._x.tell_window_manager(self._x.root, '_NET_NUMBER_OF_DESKTOPS', _DESKTOPS)
         return False
 
     def window(self, number):
