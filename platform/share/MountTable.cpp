@@ -18,6 +18,7 @@ constexpr std::array<std::string_view, 2> kShareTypes{"cifs", "smb3"};
 // Locks stay here, or reading does not ask the server (cache=).
 constexpr std::array<std::string_view, 6> kOptionsWithoutLocks{
     "nobrl", "cache=loose", "cache=singleclient", "nolock", "local_lock=all", "local_lock=posix"};
+constexpr std::string_view kLayersType = "fuse.fuse-overlayfs";
 constexpr std::size_t kDeviceField = 2;
 constexpr std::size_t kRootField = 3;
 constexpr std::size_t kMountPointField = 4;
@@ -119,9 +120,9 @@ std::optional<dev_t> deviceOf(std::string_view field) {
 }
 
 // A program's own file system (FUSE) may pass locks on or not; nothing tells which. Those on a disk of this
-// machine (fuseblk) have nobody to pass them on to.
+// machine (fuseblk, a container's layers) have nobody to pass them on to.
 bool keepsLocks(const MountLine& line) {
-    if (line.type == "fuse" || line.type.starts_with("fuse."))
+    if (line.type == "fuse" || (line.type.starts_with("fuse.") && line.type != kLayersType))
         return true;
     const std::vector<std::string_view> options = splitAt(line.options, ",");
     return std::ranges::any_of(options,

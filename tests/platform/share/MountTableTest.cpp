@@ -58,9 +58,10 @@ INSTANTIATE_TEST_SUITE_P(Lines, MountWithoutLocks,
                                            "nfs srv:/share rw,vers=3,local_lock=posix,nolock"));
 
 TEST(MountTable, LocksOfOtherMountsAreShared) {
-    for (const char* line : {"cifs //srv/share rw,vers=3.1.1,cache=strict", "cifs //srv/nobrl rw",
-                             "smb3 //srv/share rw,nobrlx", "ext4 /dev/sda1 rw", "fuseblk /dev/sdb1 rw",
-                             "nfs4 srv:/share rw,local_lock=none", "cifs //srv/share", "cifs", ""})
+    for (const char* line :
+         {"cifs //srv/share rw,vers=3.1.1,cache=strict", "cifs //srv/nobrl rw", "smb3 //srv/share rw,nobrlx",
+          "ext4 /dev/sda1 rw", "fuseblk /dev/sdb1 rw", "fuse.fuse-overlayfs fuse-overlayfs rw",
+          "nfs4 srv:/share rw,local_lock=none", "cifs //srv/share", "cifs", ""})
         EXPECT_TRUE(MountTable("41 22 0:40 / /m rw - " + std::string(line)).locksAreShared(::makedev(0, 40)))
             << line;
     for (const char* device : {"0", "x:40", "0:", ":40", "0:40x", "0:99999999999"})
