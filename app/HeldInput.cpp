@@ -63,13 +63,16 @@ void HeldInput::hold() {
         if (window->isVisible())
             m_before.emplace_back(window);
     QCoreApplication::instance()->installEventFilter(this);
-    m_isHolding = true;
+    m_isLongWait = true;
     showCursor();
 }
 
 void HeldInput::stopHolding() {
     QCoreApplication::instance()->removeEventFilter(this);
-    m_isHolding = false;
+}
+
+void HeldInput::waitIsOver() {
+    m_isLongWait = false;
     showCursor();
 }
 
@@ -82,7 +85,7 @@ void HeldInput::handOutNext() {
 }
 
 void HeldInput::showCursor() {
-    const bool isBusy = m_isHolding && !isNewDialogUp();
+    const bool isBusy = m_isLongWait && !isNewDialogUp();
     if (std::exchange(m_isCursorBusy, isBusy) == isBusy)
         return;
     if (isBusy)

@@ -114,6 +114,7 @@ void ShareWaiter::settle() {
     if (isWaiting())
         return;
     m_sinceInput.invalidate();
+    m_input.waitIsOver();
     if (m_later.empty() && m_input.isEmpty())
         return;
     QMetaObject::invokeMethod(this, &ShareWaiter::settle, Qt::QueuedConnection);

@@ -5,7 +5,7 @@
 // and the system's events go on in an event loop of their own, while the user's input stays where it is. When
 // that has taken half a second, windows can be closed and the notification icon can be used; any other input
 // is kept until the program waits no more. Whatever else wants to begin meanwhile (a tick, a command of the
-// tray menu) asks isWaiting() or comes by afterWaiting(). One wait at a time: a wait from inside a wait ends
+// tray menu) comes by afterWaiting(). One wait at a time: a wait from inside a wait ends
 // at once, as cancelled. User-interface thread.
 
 #include "app/HeldInput.h"

@@ -6,6 +6,7 @@
 #include <QCoreApplication>
 #include <QCursor>
 #include <QDialog>
+#include <QElapsedTimer>
 #include <QGuiApplication>
 #include <QMenu>
 #include <QPushButton>
@@ -115,7 +116,20 @@ TEST_F(InputTest, IsNotHandedOutInsideOfAWaitThatBelatedWorkBegins) {
 TEST_F(InputTest, IsHeldUnderABusyCursor) {
     whenTheWaitIsLong([] { EXPECT_TRUE(isCursorBusy()); });
     EXPECT_EQ(wait(), Waited::Ready);
-    EXPECT_FALSE(isCursorBusy());
+    EXPECT_TRUE(QTest::qWaitFor([] { return !isCursorBusy(); }));
+}
+
+// A message is read in hundreds of them.
+TEST_F(InputTest, KeepsItsCursorFromOnePartOfAWaitToTheNext) {
+    QElapsedTimer waited;
+    waited.start();
+    while (!waited.hasExpired(ShareWaiter::kInputPatience.count() + 100))
+        EXPECT_TRUE(m_waiter.pass(10ms));
+    for (int part = 0; part < 10; ++part) {
+        EXPECT_TRUE(isCursorBusy());
+        EXPECT_TRUE(m_waiter.pass(10ms));
+    }
+    EXPECT_TRUE(QTest::qWaitFor([] { return !isCursorBusy(); }));
 }
 
 TEST_F(InputTest, HasItsCursorWhileADialogThatComesUpMeanwhileCanBeAnswered) {
@@ -127,7 +141,7 @@ TEST_F(InputTest, HasItsCursorWhileADialogThatComesUpMeanwhileCanBeAnswered) {
         EXPECT_TRUE(QTest::qWaitFor(isCursorBusy));
     });
     EXPECT_EQ(wait(), Waited::Ready);
-    EXPECT_FALSE(isCursorBusy());
+    EXPECT_TRUE(QTest::qWaitFor([] { return !isCursorBusy(); }));
 }
 
 TEST_F(InputTest, HasItsCursorAfterAWaitThatEndsUnderADialog) {
