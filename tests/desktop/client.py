@@ -3,7 +3,7 @@
 """The client as its user sees it: icon, menu, window, popup. Texts are read as a screen reader does."""
 import re
 
-from desktop import DesktopError, wait_until
+from desktop import DesktopError, wait_resting, wait_until
 from site_folder import program
 
 TITLE = '^(Quillamar Calls|Quillamar - Anrufe)$'
@@ -38,17 +38,7 @@ class Client:
         wait_until(docked, 'the icon to dock', START_SECONDS)
         reader = self.desktop.reader()
         wait_until(lambda: self.process.pid in reader.ask('programs'), 'the client to be readable')
-        return self._wait_resting(lambda: docked()[0])
-
-    @staticmethod
-    def _wait_resting(icon):
-        """The same place at two looks: a panel moves while it makes room for an icon."""
-        places = []
-
-        def rests():
-            places.append(icon())
-            return places[-1] if places[-2:-1] == places[-1:] else None
-        return wait_until(rests, 'the icon to rest', interval=0.1)
+        return wait_resting(lambda: docked()[0], 'the icon to rest')
 
     # Menu
 

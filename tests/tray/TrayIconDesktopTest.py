@@ -5,7 +5,7 @@ import time
 import unittest
 
 from TrayProgram import TrayProgram
-from desktop import Desktop, wait_until
+from desktop import Desktop, wait_resting, wait_until
 
 LEFT_SNI = ['MouseDown 1', 'DoubleClick 1']
 RIGHT = ['MouseDown 2', 'MouseUp 2']
@@ -16,7 +16,8 @@ def wait_icons(desktop, count=1):
 
 
 def icon_center(desktop):
-    return wait_until(lambda: next((w.center for w in desktop.tray.icons() if min(w.width, w.height) > 4), None), 'an icon')
+    return wait_resting(lambda: next((w.center for w in desktop.tray.icons() if min(w.width, w.height) > 4), None),
+                        'an icon')
 
 
 def menu_window(desktop, program):

@@ -36,6 +36,16 @@ def wait_until(condition, what, seconds=10, interval=0.02):
         time.sleep(interval)
 
 
+def wait_resting(place, what):
+    """The same answer of place() at two looks: a panel moves while it makes room for an icon."""
+    places = []
+
+    def rests():
+        places.append(place())
+        return places[-1] if places[-2:-1] == places[-1:] else None
+    return wait_until(rests, what, interval=0.1)
+
+
 def die_with_parent():
     """For preexec_fn: whoever kills the parent kills the program too."""
     _libc.prctl(PR_SET_PDEATHSIG, signal.SIGKILL, 0, 0, 0)
