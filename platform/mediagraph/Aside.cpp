@@ -5,8 +5,6 @@
 #include "platform/basic/RuntimeError.h"
 
 #include <algorithm>
-#include <system_error>
-#include <thread>
 
 namespace mediagraph {
 
@@ -15,14 +13,6 @@ bool Patience::isOver(std::size_t steps, Clock::time_point now) {
     m_total += turn;
     m_withoutProgress = std::exchange(m_steps, steps) == steps ? m_withoutProgress + turn : Clock::duration{};
     return m_withoutProgress > m_limits.withoutProgress || m_total > m_limits.total;
-}
-
-void Aside::start(std::function<void()> body) {
-    try {
-        std::thread(std::move(body)).detach();
-    } catch (const std::system_error& error) {
-        throw basic::RuntimeError(basic::kOutOfMemory, std::string("No thread: ").append(error.what()));
-    }
 }
 
 void Aside::late(const std::string& text) {

@@ -6,6 +6,7 @@
 // thrown away. So the work must own, or share, everything it touches. The calling thread is the
 // user-interface one.
 
+#include "platform/basic/DetachedThread.h"
 #include "platform/mediagraph/Waiting.h"
 
 #include <atomic>
@@ -61,7 +62,8 @@ public:
         const auto progress = std::make_shared<Progress>();
         std::packaged_task<Result()> task([progress, work = std::move(work)] { return work(*progress); });
         std::future<Result> result = task.get_future();
-        start([task = std::make_shared<std::packaged_task<Result()>>(std::move(task))] { (*task)(); });
+        basic::startDetached(
+            [task = std::make_shared<std::packaged_task<Result()>>(std::move(task))] { (*task)(); });
         Patience patience(limits);
         while (result.wait_for(kGlance) != std::future_status::ready) {
             if (patience.isOver(progress->steps) || !m_waiting.pass(kTurn)) {
@@ -76,7 +78,6 @@ private:
     static constexpr std::chrono::milliseconds kGlance{2};
     static constexpr std::chrono::milliseconds kTurn{10};
 
-    static void start(std::function<void()> body);
     [[noreturn]] static void late(const std::string& text);
 
     Waiting& m_waiting;

@@ -7,8 +7,6 @@
 
 #include <optional>
 #include <string>
-#include <system_error>
-#include <thread>
 
 namespace mediagraph {
 namespace {
@@ -40,14 +38,14 @@ void play(const PlayingTask& task) {
 void startPlayingThread(PlayingTask task, std::shared_ptr<ThreadCount> count) {
     count->enter();
     try {
-        std::thread([task = std::move(task), count]() mutable {
+        basic::startDetached([task = std::move(task), count]() mutable {
             play(task);
             task = {};
             count->exit();
-        }).detach();
-    } catch (const std::system_error& error) {
+        });
+    } catch (const basic::RuntimeError&) {
         count->exit();
-        throw basic::RuntimeError(basic::kOutOfMemory, std::string("No thread: ").append(error.what()));
+        throw;
     }
 }
 
