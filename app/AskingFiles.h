@@ -15,15 +15,15 @@ namespace app {
 
 class AskingFiles final : public share::smb::SmbFileSystemObject {
 public:
-    AskingFiles(share::smb::SmbServers& servers, share::smb::Waiter& waiter,
-                std::shared_ptr<const LogOnDesk> desk, std::string server)
+    AskingFiles(share::smb::SmbServers& servers, share::Waiter& waiter, std::shared_ptr<const LogOnDesk> desk,
+                std::string server)
         : SmbFileSystemObject(servers, waiter), m_waiter(waiter), m_desk(std::move(desk)),
           m_server(std::move(server)) {}
 
     bool FolderExists(std::string_view path) override;
 
 private:
-    share::smb::Waiter& m_waiter;
+    share::Waiter& m_waiter;
     const std::shared_ptr<const LogOnDesk> m_desk;
     const std::string m_server;
 };

@@ -26,9 +26,9 @@ void CountsAhead::end() noexcept {
 bool CountsAhead::ask(CountQuestion question, Done done) {
     try {
         const auto root = share::UncPath::parse(question.share);
-        if (m_resolver.resolve(root).way != share::Way::Server)
+        if (!mayTakeLong(root))
             return false;
-        m_servers.server(root.server()); // its address is looked up here, not on the other thread
+        settle(root);
     } catch (const basic::RuntimeError&) {
         return false; // the routine finds out for itself
     }
@@ -48,6 +48,21 @@ bool CountsAhead::ask(CountQuestion question, Done done) {
     }
     m_isAsking = true;
     return true;
+}
+
+bool CountsAhead::mayTakeLong(const share::UncPath& root) const {
+    const share::Route route = m_resolver.resolve(root);
+    return route.way == share::Way::Server || m_resolver.slowMountOf(route);
+}
+
+// The settings are looked into here, not on the other thread.
+void CountsAhead::settle(const share::UncPath& root) {
+    m_mapping = m_resolver.mappingOf(root.server());
+    m_servers.server(root.server());
+}
+
+share::ShareResolver CountsAhead::settledResolver() const {
+    return {[this](std::string_view) { return m_mapping; }, m_resolver.mountInfo()};
 }
 
 CountAnswers CountsAhead::answersTo(const CountQuestion& question) {

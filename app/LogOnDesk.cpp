@@ -14,7 +14,7 @@
 namespace app {
 namespace {
 
-using share::smb::Waited;
+using share::Waited;
 
 constexpr std::chrono::hours kLook{1}; // people are given all the time they want
 
@@ -89,7 +89,7 @@ int LogOnDesk::answers(const std::string& server) const {
     return known != m_servers.end() ? known->second.answers : 0;
 }
 
-void LogOnDesk::waitForAnswer(const std::string& server, share::smb::Waiter& waiter) const {
+void LogOnDesk::waitForAnswer(const std::string& server, share::Waiter& waiter) const {
     const Question open = question(server);
     Waited waited = open ? Waited::TimeOver : Waited::Ready;
     while (waited == Waited::TimeOver)

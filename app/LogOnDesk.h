@@ -6,8 +6,8 @@
 // case. Threads may outlast everything else, so they share it. Any thread.
 
 #include "platform/share/FileDescriptor.h"
+#include "platform/share/Waiter.h"
 #include "platform/share/smb/Credentials.h"
-#include "platform/share/smb/Waiter.h"
 
 #include <functional>
 #include <map>
@@ -39,7 +39,7 @@ public:
     // How often somebody was typed in: who was refused compares it with what it was before.
     int answers(const std::string& server) const;
     // Waits while a question about the server is open.
-    void waitForAnswer(const std::string& server, share::smb::Waiter& waiter) const;
+    void waitForAnswer(const std::string& server, share::Waiter& waiter) const;
 
 private:
     // Readable from the question's end on.

@@ -7,8 +7,8 @@
 #include "platform/share/LocalFileSystemObject.h"
 #include "platform/share/MountTable.h"
 #include "platform/share/RoutedFileSystemObject.h"
+#include "platform/share/ThreadWaiter.h"
 #include "platform/share/smb/SmbFileSystemObject.h"
-#include "platform/share/smb/ThreadWaiter.h"
 
 #include <utility>
 
@@ -33,7 +33,7 @@ struct Ways {
     registry::SystemCalls calls;
     registry::Registry settings;
     SmbServers smbServers;
-    share::smb::ThreadWaiter waiter;
+    share::ThreadWaiter waiter;
     share::LocalFileSystemObject folders{resolver()};
     share::smb::SmbFileSystemObject servers{smbServers, waiter};
 };

@@ -77,7 +77,7 @@ Program::Program(Application& application, SingleInstance& instance)
       m_errorHandler(m_shownErrors, [this] { m_smbServers.tryNow(); }),
       m_registry(registry::pathsFromEnvironment(), m_systemCalls),
       m_remembered(m_keyring, [this] { passwordNotStored(); }), m_logOns(logOnServices()),
-      m_smbServers(smbSurroundings(), smbAddresses()), m_folders(resolver()),
+      m_smbServers(smbSurroundings(), smbAddresses()), m_folders(resolver(), m_waiter),
       m_servers(m_smbServers, m_waiter), m_files(resolver(), m_folders, m_servers),
       m_countsAhead(m_smbServers, resolver()), m_engine(m_files, jet::Engine::sleepBriefly, sharingWait()),
       m_common(m_errorHandler, m_files, [this] { return std::make_shared<jet::Connection>(m_engine); }),

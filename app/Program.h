@@ -31,7 +31,7 @@
 #include "platform/jet/Engine.h"
 #include "platform/mediagraph/SoundSystem.h"
 #include "platform/registry/Registry.h"
-#include "platform/share/LocalFileSystemObject.h"
+#include "platform/share/MountedFileSystemObject.h"
 #include "platform/share/RoutedFileSystemObject.h"
 #include "platform/share/smb/SmbFileSystemObject.h"
 #include "platform/shell/DelayTimer.h"
@@ -91,7 +91,7 @@ private:
     LogOns m_logOns;
     const std::shared_ptr<share::smb::Refusals> m_refusals = std::make_shared<share::smb::Refusals>();
     share::smb::SmbServers m_smbServers;
-    share::LocalFileSystemObject m_folders;
+    share::MountedFileSystemObject m_folders;
     share::smb::SmbFileSystemObject m_servers;
     share::RoutedFileSystemObject m_files;
     CountsAhead m_countsAhead;

@@ -17,8 +17,8 @@
 namespace app {
 namespace {
 
+using share::Waiter;
 using share::smb::Credentials;
-using share::smb::Waiter;
 
 constexpr std::chrono::milliseconds kPatience{3'000}; // of one request
 constexpr QChar kSeparator = u'\n';

@@ -6,7 +6,7 @@
 #include "platform/basic/RuntimeError.h"
 #include "platform/share/LocalFileSystemObject.h"
 #include "platform/share/MountTable.h"
-#include "platform/share/smb/ThreadWaiter.h"
+#include "platform/share/ThreadWaiter.h"
 
 #include <memory>
 #include <optional>
@@ -24,27 +24,26 @@ std::optional<UncPath> pathOf(const std::string& folder) {
     }
 }
 
-// The settings are asked here: the search's thread must not look into them.
-share::ShareResolver::Mapping answerOf(const share::ShareResolver::Mapping& mapping,
-                                       const std::optional<UncPath>& path) {
-    const std::optional<std::string> answer = path ? mapping(path->server()) : std::nullopt;
-    return [answer](std::string_view) { return answer; };
+dialogs::SearchedShare inFolder(const share::ShareResolver& resolver) {
+    return {std::make_unique<share::LocalFileSystemObject>(resolver), {}};
 }
 
 } // namespace
 
 dialogs::SearchedShare SearchedShares::operator()(const std::string& folder) const {
     const std::optional<UncPath> path = pathOf(folder);
-    const share::ShareResolver resolver(answerOf(m_mapping, path), share::MountTable::systemText);
-    if (path && resolver.resolve(*path).way == share::Way::Server)
+    if (!path)
+        return inFolder({nullptr, share::MountTable::systemText});
+    const share::ShareResolver resolver(m_mapping, share::MountTable::systemText);
+    if (resolver.resolve(*path).way == share::Way::Server)
         return onServer(path->server());
-    return {std::make_unique<share::LocalFileSystemObject>(resolver), {}};
+    return inFolder(resolver.settledFor(*path));
 }
 
 // The user wants it now, and his server's address is looked up here, not on the other thread.
 dialogs::SearchedShare SearchedShares::onServer(const std::string& server) const {
     m_servers.server(server).tryNow();
-    const auto waiter = std::make_shared<share::smb::ThreadWaiter>();
+    const auto waiter = std::make_shared<share::ThreadWaiter>();
     return {std::make_unique<AskingFiles>(m_servers, *waiter, m_desk, server),
             [waiter] { waiter->cancel(); }};
 }

@@ -14,7 +14,7 @@
 namespace app {
 namespace {
 
-using share::smb::Waited;
+using share::Waited;
 
 enum LoopEnd { kReadable = 1, kTimeOver, kInputIsDue }; // anything else is the end of the program
 
@@ -48,12 +48,12 @@ Waited ShareWaiter::letEventsRun(int descriptor, std::chrono::milliseconds atMos
     QSocketNotifier readable(descriptor, QSocketNotifier::Read);
     connect(&readable, &QSocketNotifier::activated, &loop, [&loop] { loop.exit(kReadable); });
     QTimer part;
-    int parts = share::smb::kPartsOfAWait;
+    int parts = share::kPartsOfAWait;
     connect(&part, &QTimer::timeout, &loop, [&loop, &parts] {
         if (--parts <= 0)
             loop.exit(kTimeOver);
     });
-    part.start(share::smb::partOf(atMost));
+    part.start(share::partOf(atMost));
 
     const int end = exec(loop);
     if (m_isEnded || (end != kReadable && end != kTimeOver))

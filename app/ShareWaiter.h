@@ -10,7 +10,7 @@
 
 #include "app/HeldInput.h"
 #include "platform/mediagraph/Waiting.h"
-#include "platform/share/smb/Waiter.h"
+#include "platform/share/Waiter.h"
 
 #include <QElapsedTimer>
 #include <QEventLoop>
@@ -21,7 +21,7 @@
 
 namespace app {
 
-class ShareWaiter final : public QObject, public share::smb::Waiter, public mediagraph::Waiting {
+class ShareWaiter final : public QObject, public share::Waiter, public mediagraph::Waiting {
     Q_OBJECT
 public:
     // How long events may be kept waiting before they are let run.
@@ -29,7 +29,7 @@ public:
     // The same for the user's input: a list is loaded in less, and then everything stays in its order.
     static constexpr std::chrono::milliseconds kInputPatience{500};
 
-    share::smb::Waited untilReadable(int descriptor, std::chrono::milliseconds atMost) override;
+    share::Waited untilReadable(int descriptor, std::chrono::milliseconds atMost) override;
 
     // A part of the wait for a message that is read and decoded, or for others in a database.
     bool pass(std::chrono::milliseconds time) override;
@@ -44,7 +44,7 @@ public:
 
 private:
     bool isSoonReadable(int descriptor, std::chrono::milliseconds atMost);
-    share::smb::Waited letEventsRun(int descriptor, std::chrono::milliseconds atMost);
+    share::Waited letEventsRun(int descriptor, std::chrono::milliseconds atMost);
     int exec(QEventLoop& loop);
     int execWithoutInput(QEventLoop& loop);
     int execHoldingInput(QEventLoop& loop);

@@ -4,7 +4,7 @@
 // Finds computers by the network's own browsing, in a qmshare process of its own, on a thread of its own.
 // Letting it go ends both at once. User-interface thread.
 
-#include "platform/share/smb/ThreadWaiter.h"
+#include "platform/share/ThreadWaiter.h"
 #include "platform/shell/ComputerSource.h"
 
 #include <string>
@@ -24,8 +24,8 @@ private:
     void browse();
 
     const std::string m_helperProgram;
-    share::smb::ThreadWaiter m_waiter; // the thread's
-    std::jthread m_thread;             // last: what it uses must outlive it
+    share::ThreadWaiter m_waiter; // the thread's
+    std::jthread m_thread;        // last: what it uses must outlive it
 };
 
 } // namespace app

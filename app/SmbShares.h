@@ -5,8 +5,8 @@
 // own: a server may take longer to name its shares for the first time than a poll would ever wait. Letting it
 // go ends everything at once. User-interface thread.
 
+#include "platform/share/ThreadWaiter.h"
 #include "platform/share/smb/SmbServers.h"
-#include "platform/share/smb/ThreadWaiter.h"
 #include "platform/shell/ShareSource.h"
 
 #include <condition_variable>
@@ -30,7 +30,7 @@ private:
     void answer(const std::string& computer);
 
     share::smb::SmbServers m_servers;
-    share::smb::ThreadWaiter m_waiter; // the thread's
+    share::ThreadWaiter m_waiter; // the thread's
     std::mutex m_mutex;
     std::condition_variable_any m_wanted;
     std::deque<std::string> m_computers;

@@ -7,8 +7,8 @@
 //   poll COUNT    one tick: the share, then the number of calls of the mailboxes 1 to COUNT
 //   list MAILBOX  all calls of one mailbox as the list reads them
 #include "bench/OurTable.h"
+#include "platform/share/ThreadWaiter.h"
 #include "platform/share/smb/SmbFileSystemObject.h"
-#include "platform/share/smb/ThreadWaiter.h"
 
 #include <chrono>
 #include <cstdlib>
@@ -49,7 +49,7 @@ public:
     }
 
 private:
-    share::smb::ThreadWaiter m_waiter;
+    share::ThreadWaiter m_waiter;
     share::smb::SmbServers m_servers;
     share::smb::SmbFileSystemObject m_files{m_servers, m_waiter};
     jet::Engine m_engine{m_files};

@@ -18,6 +18,9 @@ constexpr std::array<std::string_view, 2> kShareTypes{"cifs", "smb3"};
 // Locks stay here, or reading does not ask the server (cache=).
 constexpr std::array<std::string_view, 6> kOptionsWithoutLocks{
     "nobrl", "cache=loose", "cache=singleclient", "nolock", "local_lock=all", "local_lock=posix"};
+// autofs mounts at the first step into the folder.
+constexpr std::array<std::string_view, 9> kServerTypes{"cifs", "smb3", "nfs",    "nfs4",  "9p",
+                                                       "ceph", "afs",  "lustre", "autofs"};
 constexpr std::string_view kLayersType = "fuse.fuse-overlayfs";
 constexpr std::size_t kDeviceField = 2;
 constexpr std::size_t kRootField = 3;
@@ -119,14 +122,25 @@ std::optional<dev_t> deviceOf(std::string_view field) {
     return makedev(*major, *minor);
 }
 
-// A program's own file system (FUSE) may pass locks on or not; nothing tells which. Those on a disk of this
-// machine (fuseblk, a container's layers) have nobody to pass them on to.
+// A program's own file system (FUSE), but for those on a disk of this machine: fuseblk, a container's layers.
+bool isOfAProgram(std::string_view type) {
+    return type == "fuse" || (type.starts_with("fuse.") && type != kLayersType);
+}
+
+// Such a program may pass locks on or not; nothing tells which.
 bool keepsLocks(const MountLine& line) {
-    if (line.type == "fuse" || (line.type.starts_with("fuse.") && line.type != kLayersType))
+    if (isOfAProgram(line.type))
         return true;
     const std::vector<std::string_view> options = splitAt(line.options, ",");
     return std::ranges::any_of(options,
                                [](std::string_view option) { return isOneOf(kOptionsWithoutLocks, option); });
+}
+
+bool liesIn(std::string_view mountPoint, std::string_view folder) {
+    if (mountPoint == "/")
+        return folder.starts_with('/');
+    return folder.starts_with(mountPoint) &&
+           (folder.size() == mountPoint.size() || folder[mountPoint.size()] == '/');
 }
 
 } // namespace
@@ -136,12 +150,24 @@ MountTable::MountTable(std::string_view mountInfo) {
         const std::optional<MountLine> line = mountLine(text);
         if (!line)
             continue;
+        m_mounts.push_back(
+            {unescaped(line->mountPoint), isOneOf(kServerTypes, line->type) || isOfAProgram(line->type)});
         if (std::optional<ShareMount> mount = shareMount(*line))
             m_shares.push_back(std::move(*mount));
         const std::optional<dev_t> device = deviceOf(line->device);
         if (device && keepsLocks(*line))
             m_withoutLocks.push_back(*device);
     }
+}
+
+std::optional<std::string> MountTable::slowMountOf(std::string_view folder) const {
+    const Mount* best = nullptr;
+    for (const Mount& mount : m_mounts)
+        // Of two at the same place the later one hides the earlier one.
+        if (liesIn(mount.mountPoint, folder) &&
+            (best == nullptr || mount.mountPoint.size() >= best->mountPoint.size()))
+            best = &mount;
+    return best != nullptr && best->isSlow ? std::optional(best->mountPoint) : std::nullopt;
 }
 
 bool MountTable::locksAreShared(dev_t device) const {

@@ -1,13 +1,15 @@
 // SPDX-FileCopyrightText: 2026 The qmClient authors
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
-// The mounted network shares of this machine and what their locks are worth, read from the text of
-// /proc/self/mountinfo. A mount may begin below the share (//server/share/sub), and a bind mount may show a
-// part of one. Lines that cannot be read are passed over. Format: proc(5), "/proc/pid/mountinfo".
+// The mounted network shares of this machine, which of its folders another machine or a program answers for,
+// and what their locks are worth, read from the text of /proc/self/mountinfo. A mount may begin below the
+// share (//server/share/sub), and a bind mount may show a part of one. Lines that cannot be read are passed
+// over. Format: proc(5), "/proc/pid/mountinfo".
 
 #include <sys/types.h>
 
 #include <functional>
+#include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -31,6 +33,11 @@ public:
     // In the order of mounting.
     const std::vector<ShareMount>& shares() const noexcept { return m_shares; }
 
+    // Where the file system is mounted that `folder` lies on, if a server or a program answers for it: any
+    // call there takes as long as they do. Nothing for the disks of this machine. `folder` is absolute;
+    // symbolic links in it are not followed.
+    std::optional<std::string> slowMountOf(std::string_view folder) const;
+
     // False for the files of a mount whose locks hold among the programs of this machine only, and of one
     // that shows what it remembers in place of what the server has by now. They cannot be told by trying.
     bool locksAreShared(dev_t device) const;
@@ -39,7 +46,13 @@ public:
     static std::string systemText();
 
 private:
+    struct Mount {
+        std::string mountPoint;
+        bool isSlow = false;
+    };
+
     std::vector<ShareMount> m_shares;
+    std::vector<Mount> m_mounts; // all, in their order
     std::vector<dev_t> m_withoutLocks;
 };
 

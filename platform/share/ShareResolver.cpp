@@ -35,10 +35,20 @@ Route ShareResolver::resolve(const UncPath& path) const {
     return {Way::Server, {}, path.components()};
 }
 
-std::optional<Route> ShareResolver::mapped(const UncPath& path) const {
-    if (!m_mapping || !basic::equalText(path.share(), kMappedShare))
+std::optional<std::string> ShareResolver::slowMountOf(const Route& route) const {
+    if (!m_mountInfo || route.way != Way::Folder)
         return std::nullopt;
-    std::optional<std::string> folder = m_mapping(path.server());
+    return MountTable(m_mountInfo()).slowMountOf(route.folder);
+}
+
+ShareResolver ShareResolver::settledFor(const UncPath& path) const {
+    return {[answer = mappingOf(path.server())](std::string_view) { return answer; }, m_mountInfo};
+}
+
+std::optional<Route> ShareResolver::mapped(const UncPath& path) const {
+    if (!basic::equalText(path.share(), kMappedShare))
+        return std::nullopt;
+    std::optional<std::string> folder = mappingOf(path.server());
     if (!folder || !folder->starts_with('/'))
         return std::nullopt;
     return below(std::move(*folder), path, 0);

@@ -21,7 +21,7 @@ namespace app {
 namespace {
 
 using namespace std::chrono_literals;
-using share::smb::Waited;
+using share::Waited;
 
 // A window with a button in it, and a user who clicks when the wait has taken long.
 class InputTest : public ShareWaiterTest {

@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "app/LogOns.h"
 
-#include "platform/share/smb/ThreadWaiter.h"
+#include "platform/share/ThreadWaiter.h"
 
 #include <QCoreApplication>
 
@@ -174,7 +174,7 @@ protected:
     }
 
     bool m_isPatient = true;
-    share::smb::ThreadWaiter m_waiter;
+    share::ThreadWaiter m_waiter;
 };
 
 TEST_F(LogOnsThreadTest, TellWaitingThreadsOfTheAnswer) {

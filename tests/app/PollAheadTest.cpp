@@ -144,7 +144,7 @@ TEST_F(PollAheadTest, AnswersThatComeInsideOfAWaitAreLeftForAfterIt) {
 TEST_F(PollAheadTest, PassesOverADatabaseThatSomebodyElseHasToHimselfAndCountsItAfterwards) {
     loadTwelveCalls();
     share::smb::SmbServers others = connections();
-    share::smb::ThreadWaiter waiter;
+    share::ThreadWaiter waiter;
     share::smb::SmbFileSystemObject theirs{others, waiter};
     auto held = theirs.openFile("\\\\srv01\\Quillamar_0$\\MBX\\12\\qmLog.mdb", share::OpenMode::Exclusive);
     mailbox(12).append(3);
@@ -280,6 +280,22 @@ TEST_F(PollAheadTest, IsNotUsedForAFolderOfThisMachine) {
         m_servers,
         share::ShareResolver([](std::string_view) { return std::optional<std::string>("/srv"); }, nullptr));
     EXPECT_FALSE(counts.ask({"\\\\srv01\\Quillamar_0$", {}}, [](const CountAnswers&) { FAIL(); }));
+}
+
+TEST_F(PollAheadTest, AsksAMountedFolderAheadAsWell) {
+    const std::string table = "41 22 0:40 / " + folder.path("share") + " rw - cifs //srv01/Quillamar_0$ rw\n";
+    CountsAhead counts{m_servers, share::ShareResolver(nullptr, [table] { return table; })};
+    shareAccess.countsAhead = &counts;
+    m_samba.pause();
+    loadTwelveCalls();
+    ASSERT_TRUE(QTest::qWaitFor([&] { return !counts.isAsking(); }, 60'000));
+    mailbox(12).append(3);
+    tick();
+    EXPECT_TRUE(counts.isAsking());
+    EXPECT_EQ(popup(), nullptr);
+    ASSERT_TRUE(QTest::qWaitFor([&] { return !counts.isAsking(); }, 60'000));
+    EXPECT_EQ(popupText(), "You have  3  new calls");
+    m_samba.resume();
 }
 
 } // namespace

@@ -12,7 +12,7 @@ namespace app {
 namespace {
 
 using namespace std::chrono_literals;
-using share::smb::Waited;
+using share::Waited;
 
 TEST_F(ShareWaiterTest, LetsEventsRunUntilTheAnswerComes) {
     QTimer::singleShot(0, &m_waiter, [this] {
@@ -38,13 +38,12 @@ TEST_F(ShareWaiterTest, HearsAnAnswerThatComesAfterAStandstill) {
 
 TEST_F(ShareWaiterTest, DoesNotCountTheTimeInWhichTheProgramStoodStill) {
     constexpr auto kPart = 20ms;
-    static constexpr auto kStandstill = kPart * (share::smb::kPartsOfAWait / 2);
+    static constexpr auto kStandstill = kPart * (share::kPartsOfAWait / 2);
     QTimer::singleShot(0, &m_waiter, [] { std::this_thread::sleep_for(kStandstill); });
     const auto start = std::chrono::steady_clock::now();
-    EXPECT_EQ(wait(kPart * share::smb::kPartsOfAWait), Waited::TimeOver);
+    EXPECT_EQ(wait(kPart * share::kPartsOfAWait), Waited::TimeOver);
     // It may cost the part in which it began and the one in which it ended.
-    EXPECT_GE(std::chrono::steady_clock::now() - start,
-              kStandstill + kPart * (share::smb::kPartsOfAWait - 2));
+    EXPECT_GE(std::chrono::steady_clock::now() - start, kStandstill + kPart * (share::kPartsOfAWait - 2));
 }
 
 TEST_F(ShareWaiterTest, IsCancelledByTheEndOfTheProgram) {

@@ -17,7 +17,7 @@ namespace app {
 class ShareWaiterTest : public testing::Test {
 protected:
     void answer() { m_there.send(std::vector<std::byte>(1)); }
-    share::smb::Waited wait(std::chrono::milliseconds atMost = std::chrono::minutes{60}) {
+    share::Waited wait(std::chrono::milliseconds atMost = std::chrono::minutes{60}) {
         return m_waiter.untilReadable(m_here.descriptor(), atMost);
     }
 

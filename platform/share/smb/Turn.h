@@ -5,7 +5,7 @@
 // waiting for it is a wait like any other, so that the window lives on. Not to be taken twice by one thread.
 
 #include "platform/share/FileDescriptor.h"
-#include "platform/share/smb/Waiter.h"
+#include "platform/share/Waiter.h"
 
 namespace share::smb {
 

@@ -70,6 +70,34 @@ TEST(MountTable, LocksOfOtherMountsAreShared) {
             << device;
 }
 
+TEST(MountTable, KnowsTheMountsThatServersAndProgramsAnswerFor) {
+    for (const char* type : {"cifs", "smb3", "nfs", "nfs4", "9p", "autofs", "fuse", "fuse.sshfs"}) {
+        const MountTable table("22 1 8:1 / / rw - ext4 /dev/sda1 rw\n41 22 0:40 / /mnt/q rw - " +
+                               std::string(type) + " srv:/share rw\n");
+        EXPECT_EQ(table.slowMountOf("/mnt/q/MBX"), "/mnt/q") << type;
+        EXPECT_EQ(table.slowMountOf("/mnt/q"), "/mnt/q") << type;
+        EXPECT_EQ(table.slowMountOf("/mnt/qm"), std::nullopt) << type;
+        EXPECT_EQ(table.slowMountOf("/mnt"), std::nullopt) << type;
+    }
+    for (const char* type : {"ext4", "tmpfs", "fuseblk", "fuse.fuse-overlayfs", "nfsd"})
+        EXPECT_EQ(MountTable("41 22 0:40 / /mnt/q rw - " + std::string(type) + " x rw").slowMountOf("/mnt/q"),
+                  std::nullopt)
+            << type;
+}
+
+TEST(MountTable, AsksTheMountThatLiesOnTop) {
+    const MountTable table("22 1 0:20 / / rw - nfs srv:/root rw\n"
+                           "41 22 8:1 / /home rw - ext4 /dev/sda1 rw\n"
+                           "42 41 0:40 / /home/a\\040b rw - fuse.sshfs srv: rw\n"
+                           "43 22 0:41 / /mnt rw - cifs //srv/share rw\n"
+                           "44 43 0:42 / /mnt rw - tmpfs none rw\n");
+    EXPECT_EQ(table.slowMountOf("/srv"), "/");
+    EXPECT_EQ(table.slowMountOf("/home/c"), std::nullopt);
+    EXPECT_EQ(table.slowMountOf("/home/a b/c"), "/home/a b");
+    EXPECT_EQ(table.slowMountOf("/mnt/c"), std::nullopt);
+    EXPECT_EQ(MountTable("").slowMountOf("/mnt"), std::nullopt);
+}
+
 TEST(MountTable, PassesOverLinesThatCannotBeRead) {
     for (const char* text : {"", "\n\n", "garbage", "1 2 3 4 5 6", "1 2 3 4 5 6 -", "1 2 3 4 5 6 - cifs",
                              "1 2 3 / /m rw - cifs //srv rw", "1 2 3 / /m rw - cifs / rw",

@@ -77,5 +77,32 @@ TEST(ShareResolver, WithoutMappingOrMountTheServerItselfAnswers) {
     EXPECT_THAT(route.components, ElementsAre("MBX", "7", "qmLog.mdb"));
 }
 
+TEST(ShareResolver, KnowsTheMountThatAMappedFolderLiesOn) {
+    const MountInfo mounts = mountsOf("22 1 8:1 / / rw - ext4 /dev/sda1 rw\n"
+                                      "41 22 0:40 / /mnt/nas rw - nfs4 nas:/q rw\n");
+    const auto mountOf = [&](const char* folder) {
+        const ShareResolver resolver(mappingOf("srv", folder), mounts);
+        return resolver.slowMountOf(resolver.resolve(kDatabase));
+    };
+    EXPECT_EQ(mountOf("/mnt/nas/log"), "/mnt/nas");
+    EXPECT_EQ(mountOf("/data/qm"), std::nullopt);
+    EXPECT_EQ(mountOf("smb://srv"), std::nullopt);
+}
+
+TEST(ShareResolver, WithoutATableNoMountIsKnown) {
+    const ShareResolver resolver(mappingOf("srv", "/mnt/nas"), {});
+    EXPECT_EQ(resolver.slowMountOf(resolver.resolve(kDatabase)), std::nullopt);
+}
+
+TEST(ShareResolver, ASettledOneKeepsWhatTheMappingSaid) {
+    std::optional<std::string> folder = "/data/qm";
+    const ShareResolver resolver([&](std::string_view) { return folder; },
+                                 mountsOf("1 2 0:1 / /mnt rw - cifs //srv/Quillamar_0$ rw\n"));
+    const ShareResolver settled = resolver.settledFor(kDatabase);
+    folder.reset();
+    EXPECT_EQ(settled.resolve(kDatabase).folder, "/data/qm");
+    EXPECT_EQ(resolver.settledFor(kDatabase).resolve(kDatabase).folder, "/mnt");
+}
+
 } // namespace
 } // namespace share

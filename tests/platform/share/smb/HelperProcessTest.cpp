@@ -89,7 +89,7 @@ TEST(HelperProcess, EndsWithAClientThatIsKilledWhileTheServerHangs) {
     SambaServer samba;
     samba.pause();
     const KilledClient client([&samba](smb::HelperProcess& helper) {
-        smb::ThreadWaiter waiter;
+        ThreadWaiter waiter;
         helper.socket().send(smb::encode(smb::Request{.verb = smb::Verb::LogOn,
                                                       .length = samba.port(),
                                                       .path = "127.0.0.1",
@@ -98,7 +98,7 @@ TEST(HelperProcess, EndsWithAClientThatIsKilledWhileTheServerHangs) {
         helper.socket().send(smb::encode(smb::Request{.verb = smb::Verb::Stat, .path = onShare("x")}));
         // Taken by the helper, which is in the library from now on.
         EXPECT_EQ(waiter.untilReadable(helper.socket().descriptor(), std::chrono::milliseconds(200)),
-                  smb::Waited::TimeOver);
+                  Waited::TimeOver);
     });
     const int status = client.killAndReap();
     // Not at the end of the library's own patience: the loss of the client ended it.

@@ -20,14 +20,14 @@ constexpr const char* kMoreShares =
 TEST(ShareNames, AreThoseThatTheServerDoesNotHide) {
     SambaServer samba({.ofShare = kMoreShares});
     SmbClient client(samba.port(), "127.0.0.1", kPatience);
-    smb::ThreadWaiter waiter;
+    ThreadWaiter waiter;
     EXPECT_THAT(smb::shareNames(client.server(), "srv01", waiter), UnorderedElementsAre("public", "Büro 1"));
 }
 
 TEST(ShareNames, AreAskedForBesideTheShareOfTheCalls) {
     SambaServer samba({.ofShare = kMoreShares});
     SmbClient client(samba.port(), "127.0.0.1", kPatience);
-    smb::ThreadWaiter waiter;
+    ThreadWaiter waiter;
     EXPECT_TRUE(client.files().FolderExists(onShare("")));
     EXPECT_EQ(smb::shareNames(client.server(), "srv01", waiter).size(), 2U);
     EXPECT_TRUE(client.files().FolderExists(onShare("")));
@@ -37,7 +37,7 @@ TEST(ShareNames, AreNotToldToAWrongPasswordWhichIsTriedOnce) {
     SambaServer samba({.ofShare = kMoreShares});
     SmbClient client(samba.port(), "127.0.0.1", kPatience);
     client.password = "wrong";
-    smb::ThreadWaiter waiter;
+    ThreadWaiter waiter;
     for (int time = 0; time < 3; ++time)
         EXPECT_ERROR(basic::kPermissionDenied, smb::shareNames(client.server(), "srv01", waiter));
     EXPECT_EQ(samba.logOns("NT_STATUS_WRONG_PASSWORD"), 1);
@@ -46,7 +46,7 @@ TEST(ShareNames, AreNotToldToAWrongPasswordWhichIsTriedOnce) {
 TEST(ShareNames, ComeAgainAfterTheConnectionWasCut) {
     SambaServer samba({.ofShare = kMoreShares});
     SmbClient client(samba.port(), "127.0.0.1", kPatience);
-    smb::ThreadWaiter waiter;
+    ThreadWaiter waiter;
     EXPECT_EQ(smb::shareNames(client.server(), "srv01", waiter).size(), 2U);
     samba.cutConnections();
     EXPECT_EQ(smb::shareNames(client.server(), "srv01", waiter).size(), 2U);
@@ -55,21 +55,21 @@ TEST(ShareNames, ComeAgainAfterTheConnectionWasCut) {
 TEST(ShareNames, EndWithTheDeadlineOfAServerThatHangs) {
     SambaServer samba({.ofShare = kMoreShares});
     SmbClient client(samba.port());
-    smb::ThreadWaiter waiter;
+    ThreadWaiter waiter;
     samba.pause();
     EXPECT_ERROR(basic::kPathNotFound, smb::shareNames(client.server(), "srv01", waiter));
     samba.resume();
 }
 
 TEST(BrowseComputers, FindsNothingWithoutAHelper) {
-    smb::ThreadWaiter waiter;
+    ThreadWaiter waiter;
     int found = 0;
     smb::browseComputers("/nonexistent", waiter, [&](const std::string&, const std::string&) { ++found; });
     EXPECT_EQ(found, 0);
 }
 
 TEST(BrowseComputers, EndsWhenItIsCancelled) {
-    smb::ThreadWaiter waiter;
+    ThreadWaiter waiter;
     waiter.cancel();
     int found = 0;
     smb::browseComputers(smb::helperProgram(), waiter,

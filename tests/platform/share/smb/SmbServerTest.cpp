@@ -126,7 +126,7 @@ TEST_F(SmbServerTest, IsTriedAtOnceForTheUser) {
 
 TEST_F(SmbServerTest, IsNotWaitedForAtTheEndOfTheProgram) {
     m_samba.pause();
-    smb::ThreadWaiter waiter;
+    ThreadWaiter waiter;
     smb::SmbFileSystemObject files(m_client.servers(), waiter);
     waiter.cancel();
     EXPECT_ERROR(basic::kPathNotFound, files.openFile(onShare("log"), OpenMode::Read));
@@ -145,10 +145,10 @@ TEST_F(SmbServerTest, DoesNotDelayOthersWhenItIsDead) {
             return smb::ServerAddress{"127.0.0.1", server == "dead" ? m_samba.port() : healthy.port()};
         });
     m_samba.pause();
-    smb::ThreadWaiter deadWaiter;
+    ThreadWaiter deadWaiter;
     std::jthread stuck(
         [&] { smb::SmbFileSystemObject(servers, deadWaiter).FileExists("\\\\dead\\Quillamar_0$\\log"); });
-    smb::ThreadWaiter waiter;
+    ThreadWaiter waiter;
     EXPECT_TRUE(smb::SmbFileSystemObject(servers, waiter).FileExists("\\\\healthy\\Quillamar_0$\\log"));
     deadWaiter.cancel();
 }
@@ -178,7 +178,7 @@ TEST_F(SmbServerTest, ServesSeveralThreadsOneAfterTheOther) {
     std::vector<std::jthread> threads;
     for (int i = 0; i < 3; ++i)
         threads.emplace_back([this] {
-            smb::ThreadWaiter waiter;
+            ThreadWaiter waiter;
             smb::SmbFileSystemObject files(m_client.servers(), waiter);
             for (int round = 0; round < 20; ++round) {
                 std::vector<std::byte> buffer(3);
@@ -188,7 +188,7 @@ TEST_F(SmbServerTest, ServesSeveralThreadsOneAfterTheOther) {
 }
 
 TEST_F(SmbServerTest, RefusesAProgramThatIsNotThere) {
-    smb::ThreadWaiter waiter;
+    ThreadWaiter waiter;
     smb::SmbServers servers({.program = "/nonexistent/qmshare",
                              .spread = [] { return 0.0; },
                              .credentials = [](const std::string&) { return smb::Credentials{}; }},

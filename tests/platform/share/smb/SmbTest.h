@@ -4,8 +4,8 @@
 // What a test of the client's side needs around it: servers with a time of its own, the helper program as it
 // was built, credentials to change, and file-system objects to ask.
 
+#include "platform/share/ThreadWaiter.h"
 #include "platform/share/smb/SmbFileSystemObject.h"
-#include "platform/share/smb/ThreadWaiter.h"
 #include "tests/platform/share/ExpectError.h"
 #include "tests/platform/share/smb/SambaServer.h"
 
@@ -45,15 +45,15 @@ public:
 
 private:
     std::chrono::milliseconds m_time{1'000'000};
-    smb::ThreadWaiter m_waiter;
+    ThreadWaiter m_waiter;
     smb::SmbServers m_servers;
     smb::SmbFileSystemObject m_files{m_servers, m_waiter};
 };
 
 // Waits as usual and keeps the times that were allowed.
-class NotedWaiter final : public smb::Waiter {
+class NotedWaiter final : public Waiter {
 public:
-    smb::Waited untilReadable(int descriptor, std::chrono::milliseconds atMost) override {
+    Waited untilReadable(int descriptor, std::chrono::milliseconds atMost) override {
         allowed.push_back(atMost);
         return m_waiter.untilReadable(descriptor, atMost);
     }
@@ -61,7 +61,7 @@ public:
     std::vector<std::chrono::milliseconds> allowed;
 
 private:
-    smb::ThreadWaiter m_waiter;
+    ThreadWaiter m_waiter;
 };
 
 // A name on the server's share.

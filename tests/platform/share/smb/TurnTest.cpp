@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "platform/share/smb/Turn.h"
 
-#include "platform/share/smb/ThreadWaiter.h"
+#include "platform/share/ThreadWaiter.h"
 #include "tests/platform/share/ExpectError.h"
 
 #include <gtest/gtest.h>

@@ -6,7 +6,7 @@
 
 #include <chrono>
 
-namespace share::smb {
+namespace share {
 
 enum class Waited { Ready, TimeOver, Cancelled };
 
@@ -31,4 +31,4 @@ public:
     virtual Waited untilReadable(int descriptor, std::chrono::milliseconds atMost) = 0;
 };
 
-} // namespace share::smb
+} // namespace share

@@ -1,6 +1,6 @@
 // SPDX-FileCopyrightText: 2026 The qmClient authors
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "platform/share/smb/ThreadWaiter.h"
+#include "platform/share/ThreadWaiter.h"
 
 #include "platform/share/smb/PacketSocket.h"
 
@@ -20,14 +20,14 @@
 #include <thread>
 #include <vector>
 
-namespace share::smb {
+namespace share {
 namespace {
 
 using namespace std::chrono_literals;
 using std::chrono::milliseconds;
 
 TEST(ThreadWaiter, NoticesWhatComesAndWhatDoesNot) {
-    auto [here, there] = PacketSocket::pair();
+    auto [here, there] = smb::PacketSocket::pair();
     ThreadWaiter waiter;
     EXPECT_EQ(waiter.untilReadable(here.descriptor(), 1ms), Waited::TimeOver);
     there.send(std::vector<std::byte>(1));
@@ -35,8 +35,8 @@ TEST(ThreadWaiter, NoticesWhatComesAndWhatDoesNot) {
 }
 
 TEST(ThreadWaiter, NoticesThatTheOtherEndIsGone) {
-    auto [here, there] = PacketSocket::pair();
-    there = PacketSocket();
+    auto [here, there] = smb::PacketSocket::pair();
+    there = smb::PacketSocket();
     ThreadWaiter waiter;
     EXPECT_EQ(waiter.untilReadable(here.descriptor(), 60min), Waited::Ready);
     EXPECT_EQ(here.receive(), std::nullopt);
@@ -44,7 +44,7 @@ TEST(ThreadWaiter, NoticesThatTheOtherEndIsGone) {
 }
 
 TEST(ThreadWaiter, EndsAWaitThatRunsWhenItIsCancelled) {
-    auto [here, there] = PacketSocket::pair();
+    auto [here, there] = smb::PacketSocket::pair();
     ThreadWaiter waiter;
     std::jthread canceller([&waiter] { waiter.cancel(); });
     EXPECT_EQ(waiter.untilReadable(here.descriptor(), 60min), Waited::Cancelled);
@@ -109,7 +109,7 @@ private:
 TEST(ThreadWaiter, DoesNotCountTheTimeInWhichItsProcessWasStopped) {
     static constexpr milliseconds kPart{100};
     constexpr int kPartsStopped = kPartsOfAWait / 2;
-    auto [here, there] = PacketSocket::pair();
+    auto [here, there] = smb::PacketSocket::pair();
     OwnProcess process([&waiting = here] {
         ThreadWaiter waiter;
         const auto start = std::chrono::steady_clock::now();
@@ -125,7 +125,7 @@ TEST(ThreadWaiter, DoesNotCountTheTimeInWhichItsProcessWasStopped) {
 
 // It is stopped for longer than the wait may take; the answer comes when it waits again.
 TEST(ThreadWaiter, HearsAnAnswerThatComesAfterItsProcessWasStopped) {
-    auto [here, there] = PacketSocket::pair();
+    auto [here, there] = smb::PacketSocket::pair();
     OwnProcess process([&waiting = here] {
         ThreadWaiter waiter;
         waiting.send(std::vector<std::byte>(1));
@@ -138,4 +138,4 @@ TEST(ThreadWaiter, HearsAnAnswerThatComesAfterItsProcessWasStopped) {
 }
 
 } // namespace
-} // namespace share::smb
+} // namespace share

@@ -4,9 +4,9 @@
 // Waits by sleeping. cancel() ends the wait at once, and every later one; it may be called from any thread.
 
 #include "platform/share/FileDescriptor.h"
-#include "platform/share/smb/Waiter.h"
+#include "platform/share/Waiter.h"
 
-namespace share::smb {
+namespace share {
 
 class ThreadWaiter final : public Waiter {
 public:
@@ -19,4 +19,4 @@ private:
     FileDescriptor m_cancelled; // readable from cancel() on
 };
 
-} // namespace share::smb
+} // namespace share

@@ -1,6 +1,6 @@
 // SPDX-FileCopyrightText: 2026 The qmClient authors
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "platform/share/smb/ThreadWaiter.h"
+#include "platform/share/ThreadWaiter.h"
 
 #include "platform/basic/RuntimeError.h"
 
@@ -10,7 +10,7 @@
 #include <array>
 #include <cerrno>
 
-namespace share::smb {
+namespace share {
 
 ThreadWaiter::ThreadWaiter() : m_cancelled(::eventfd(0, EFD_CLOEXEC | EFD_NONBLOCK)) {
     if (!m_cancelled.isOpen())
@@ -36,4 +36,4 @@ void ThreadWaiter::cancel() noexcept {
     ::eventfd_write(m_cancelled.get(), 1);
 }
 
-} // namespace share::smb
+} // namespace share

@@ -1,0 +1,43 @@
+// SPDX-FileCopyrightText: 2026 The qmClient authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+// A file on a mounted folder that a server or a program answers for: a LocalFile whose every call is made by
+// way of MountCalls. A file whose call does not return is lost, as one whose connection to its server is
+// gone: ConnectionLost from then on. The calls must outlive it; the file is closed without it if need be.
+
+#include "platform/share/File.h"
+#include "platform/share/MountCalls.h"
+
+#include <memory>
+#include <string>
+
+namespace share {
+
+class MountedFile final : public File {
+public:
+    // `file` is opened there already.
+    MountedFile(MountCalls& calls, std::string mountPoint, std::shared_ptr<File> file)
+        : m_calls(calls), m_mountPoint(std::move(mountPoint)), m_name(file->name()), m_file(std::move(file)) {
+    }
+    ~MountedFile() override { m_calls.letGo(m_mountPoint, std::move(m_file)); }
+
+    const std::string& name() const override { return m_name; }
+    std::uint64_t size() override;
+    std::size_t read(std::uint64_t offset, std::span<std::byte> into) override;
+    void write(std::uint64_t offset, std::span<const std::byte> from) override;
+    void sync() override;
+    bool lock(std::uint64_t offset, std::uint64_t length, LockKind kind) override;
+    void unlock(std::uint64_t offset, std::uint64_t length) override;
+
+private:
+    template <typename Result, typename Work>
+    Result call(Work work, MountCalls::Requests requests = MountCalls::Requests::Few);
+
+    MountCalls& m_calls;
+    const std::string m_mountPoint;
+    const std::string m_name;
+    std::shared_ptr<File> m_file;
+    bool m_isLost = false;
+};
+
+} // namespace share
