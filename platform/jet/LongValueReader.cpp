@@ -12,12 +12,31 @@ namespace jet {
 namespace layout = format::longValue;
 
 std::span<const std::byte> LongValueReader::read(std::span<const std::byte> field, const Place& place) {
-    const std::span<const std::byte> value = find(field, place);
+    const auto joined = [&](RowPointer first, std::size_t length) {
+        m_value.clear();
+        followChain(first, length, place, [this](std::span<const std::byte> part) {
+            m_value.insert(m_value.end(), part.begin(), part.end());
+        });
+        return std::span<const std::byte>(m_value);
+    };
+    const std::span<const std::byte> value = find(field, place, joined);
     m_bytesRead += value.size();
     return value;
 }
 
-std::span<const std::byte> LongValueReader::find(std::span<const std::byte> field, const Place& place) {
+void LongValueReader::check(std::span<const std::byte> field, const Place& place) {
+    const auto counted = [&](RowPointer first, std::size_t length) {
+        followChain(first, length, place,
+                    [this](std::span<const std::byte> part) { m_bytesRead += part.size(); });
+        return std::span<const std::byte>();
+    };
+    m_bytesRead += find(field, place, counted).size();
+}
+
+// `chain` answers for a value of several parts, by its first one and its length.
+template <typename Chain>
+std::span<const std::byte> LongValueReader::find(std::span<const std::byte> field, const Place& place,
+                                                 Chain chain) {
     // Fields shorter than the header occur in sound databases and stand for no text.
     if (field.size() < layout::kHeaderSize)
         return {};
@@ -34,7 +53,7 @@ std::span<const std::byte> LongValueReader::find(std::span<const std::byte> fiel
         return bytes.first(std::min(length, bytes.size()));
     }
     case layout::kChain:
-        return readChain(where, length, place);
+        return chain(where, length);
     default:
         view.fail("the long value is of an unknown kind");
     }
@@ -57,24 +76,24 @@ ByteView LongValueReader::row(RowPointer where, const Place& place) {
 }
 
 // A second pointer stays behind at each power of two; a chain that meets itself comes back to it.
-std::span<const std::byte> LongValueReader::readChain(RowPointer first, std::size_t length,
-                                                      const Place& place) {
-    m_value.clear();
+template <typename Take>
+void LongValueReader::followChain(RowPointer first, std::size_t length, const Place& place, Take take) {
     RowPointer waiting = first;
     std::size_t steps = 0;
-    for (RowPointer next = first; next.page != 0 && m_value.size() < length;) {
+    std::size_t left = length;
+    for (RowPointer next = first; next.page != 0 && left > 0;) {
         const ByteView part = row(next, place);
         const RowPointer after = RowPointer::fromStored(part.u32(0));
         const std::span<const std::byte> data = part.bytes().subspan(format::dataPage::kRowPointerSize);
-        const std::span<const std::byte> wanted = data.first(std::min(length - m_value.size(), data.size()));
-        m_value.insert(m_value.end(), wanted.begin(), wanted.end());
+        const std::span<const std::byte> wanted = data.first(std::min(left, data.size()));
+        take(wanted);
+        left -= wanted.size();
         if (after == waiting && after.page != 0)
             place.fail("the parts of a long value form a loop");
         if (std::has_single_bit(++steps))
             waiting = next;
         next = after;
     }
-    return m_value;
 }
 
 } // namespace jet

@@ -23,13 +23,18 @@ public:
     // the row is.
     std::span<const std::byte> read(std::span<const std::byte> field, const Place& place);
 
-    // Of all answers so far, as they are stored.
+    // Follows a value as read() does and keeps nothing of it: throws what reading it would throw.
+    void check(std::span<const std::byte> field, const Place& place);
+
+    // Of all values so far, as they are stored.
     std::uint64_t bytesRead() const noexcept { return m_bytesRead; }
 
 private:
-    std::span<const std::byte> find(std::span<const std::byte> field, const Place& place);
+    template <typename Chain>
+    std::span<const std::byte> find(std::span<const std::byte> field, const Place& place, Chain chain);
     ByteView row(RowPointer where, const Place& place);
-    std::span<const std::byte> readChain(RowPointer first, std::size_t length, const Place& place);
+    template <typename Take>
+    void followChain(RowPointer first, std::size_t length, const Place& place, Take take);
 
     PageSource& m_source;
     PageBuffer m_buffer;

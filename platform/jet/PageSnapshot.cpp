@@ -15,16 +15,17 @@ constexpr PageNumber kMaxRun = 256; // 1 MiB: what one read asks of the layers b
 
 PageSnapshot::PageSnapshot(PageReader& reader, std::vector<PageNumber> pages)
     : m_name(reader.name()), m_pageCount(reader.pageCount()) {
-    std::ranges::sort(pages);
+    if (!std::ranges::is_sorted(pages))
+        std::ranges::sort(pages);
     if (!pages.empty() && pages.back() >= m_pageCount)
         Place{m_name, {}, pages.back()}.fail("the page lies beyond the end of the file");
     planRuns(pages);
     if (m_runs.empty())
         return;
     const std::size_t size = m_runs.back().offset + m_runs.back().count * kPageSize;
-    m_bytes = std::make_unique_for_overwrite<std::byte[]>(size);
+    m_bytes = PageMemory(size);
     for (const Run& run : m_runs)
-        reader.readRun(run.first, {m_bytes.get() + run.offset, run.count * kPageSize});
+        reader.readRun(run.first, {m_bytes.data() + run.offset, run.count * kPageSize});
 }
 
 void PageSnapshot::planRuns(const std::vector<PageNumber>& pages) {
@@ -46,7 +47,7 @@ void PageSnapshot::planRuns(const std::vector<PageNumber>& pages) {
 PageBytes PageSnapshot::page(PageNumber number, PageBuffer& /*buffer*/) {
     const Run& run = findRun(number);
     const std::size_t offset = run.offset + (number - run.first) * kPageSize;
-    return PageBytes(m_bytes.get() + offset, kPageSize);
+    return PageBytes(m_bytes.data() + offset, kPageSize);
 }
 
 const PageSnapshot::Run& PageSnapshot::findRun(PageNumber number) const {

@@ -5,9 +5,9 @@
 // much memory as the pages asked for, which the size of the file bounds. A page that was not asked for is a
 // RuntimeError kProviderFailure.
 
+#include "platform/jet/PageMemory.h"
 #include "platform/jet/PageReader.h"
 
-#include <memory>
 #include <string>
 #include <vector>
 
@@ -35,7 +35,7 @@ private:
     std::string m_name;
     PageNumber m_pageCount;
     std::vector<Run> m_runs;
-    std::unique_ptr<std::byte[]> m_bytes;
+    PageMemory m_bytes;
 };
 
 } // namespace jet

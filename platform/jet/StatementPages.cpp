@@ -3,13 +3,20 @@
 #include "platform/jet/StatementPages.h"
 
 #include <algorithm>
+#include <utility>
 
 namespace jet {
+namespace {
 
-StatementPages::StatementPages(PageReader& reader, const std::vector<PageNumber>& known)
-    : m_known(reader, known), m_knownPages(known), m_reader(&reader) {
-    std::ranges::sort(m_knownPages);
+std::vector<PageNumber> sorted(std::vector<PageNumber> pages) {
+    std::ranges::sort(pages);
+    return pages;
 }
+
+} // namespace
+
+StatementPages::StatementPages(PageReader& reader, std::vector<PageNumber> known)
+    : m_knownPages(sorted(std::move(known))), m_known(reader, m_knownPages), m_reader(&reader) {}
 
 PageBytes StatementPages::page(PageNumber number, PageBuffer& buffer) {
     if (std::ranges::binary_search(m_knownPages, number))

@@ -15,7 +15,7 @@ namespace jet {
 class StatementPages final : public PageSource {
 public:
     // The reader must live until detach().
-    StatementPages(PageReader& reader, const std::vector<PageNumber>& known);
+    StatementPages(PageReader& reader, std::vector<PageNumber> known);
 
     void detach() noexcept { m_reader = nullptr; }
 
@@ -24,8 +24,8 @@ public:
     PageBytes page(PageNumber number, PageBuffer& buffer) override;
 
 private:
-    PageSnapshot m_known;
     std::vector<PageNumber> m_knownPages; // ascending
+    PageSnapshot m_known;
     PageReader* m_reader;
     std::map<PageNumber, std::unique_ptr<PageBuffer>> m_others;
 };

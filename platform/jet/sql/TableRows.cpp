@@ -177,7 +177,7 @@ void TableRows::checkRow(const RowView& row) {
         else if (!column->isLongValue())
             m_access->decoder.value(row, *column);
         else if (!row.isNull(*column))
-            m_access->longValues.read(row.field(*column), row.place());
+            m_access->longValues.check(row.field(*column), row.place());
     }
 }
 

@@ -27,16 +27,29 @@ protected:
     static test::Bytes part(RowPointer next, std::string_view hex) {
         return test::joined({test::u32(next.stored()), test::fromHex(hex)});
     }
+    // Checking a value goes the way of reading it.
     std::string read(const test::Bytes& field) {
         test::SourceOf source(image);
         LongValueReader reader(source.pages);
-        const auto bytes = reader.read(field, {"a.mdb", "T", 6, 2});
+        LongValueReader checker(source.pages);
+        std::span<const std::byte> bytes;
+        try {
+            bytes = reader.read(field, kPlace);
+        } catch (const basic::RuntimeError& error) {
+            EXPECT_EQ(test::failureOf([&] { checker.check(field, kPlace); }), error.description());
+            throw;
+        }
         reads = source.file.reads.size();
+        checker.check(field, kPlace);
+        EXPECT_EQ(reader.bytesRead(), bytes.size());
+        EXPECT_EQ(checker.bytesRead(), bytes.size());
         return {reinterpret_cast<const char*>(bytes.data()), bytes.size()};
     }
     std::string readFrom(std::uint32_t kindAndLength, RowPointer where) {
         return read(test::longValueHeader(kindAndLength, where));
     }
+
+    static constexpr Place kPlace{"a.mdb", "T", 6, 2};
 
     test::Image image;
     std::size_t reads = 0;
