@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // All pictures on one sheet, as a light and as a dark theme show them, to be looked at; what can be measured
 // of it is: each stands out from what is behind it.
+#include "tests/Contrast.h"
 #include "tests/resources/AllIcons.h"
 
 #include <QApplication>
@@ -18,6 +19,8 @@
 namespace resources {
 namespace {
 
+using colour::contrast;
+
 struct Theme {
     QColor background, text, selection, selectedText;
 };
@@ -27,20 +30,6 @@ const Theme kDark{"#1b1e20", "#fcfcfc", "#2a6a94", "#ffffff"};
 
 constexpr std::array kSides{16, 24, 32, 48, 64, 128, 256};
 constexpr std::array kModes{QIcon::Normal, QIcon::Selected, QIcon::Disabled};
-
-double channel(int value) {
-    const double part = value / 255.0;
-    return part <= 0.04045 ? part / 12.92 : std::pow((part + 0.055) / 1.055, 2.4);
-}
-double luminance(const QColor& colour) {
-    return 0.2126 * channel(colour.red()) + 0.7152 * channel(colour.green()) +
-           0.0722 * channel(colour.blue());
-}
-// From 1 for two equal colours to 21 for black and white.
-double contrast(const QColor& a, const QColor& b) {
-    const auto [darker, lighter] = std::minmax(luminance(a), luminance(b));
-    return (lighter + 0.05) / (darker + 0.05);
-}
 
 class IconSheetTest : public ::testing::Test {
 protected:

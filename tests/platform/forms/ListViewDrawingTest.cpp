@@ -1,9 +1,11 @@
 // SPDX-FileCopyrightText: 2026 The qmClient authors
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "platform/forms/ImageList.h"
+#include "tests/Contrast.h"
 #include "tests/platform/forms/CallListFixture.h"
 
 #include <QHeaderView>
+#include <QPixmap>
 
 namespace forms {
 namespace {
@@ -120,6 +122,42 @@ TEST_F(ListViewDrawing, AnIconIsReadByItsName) {
     EXPECT_EQ(shown(1, 0, Qt::AccessibleTextRole), QStringLiteral("message"));
     EXPECT_EQ(shown(2, 0, Qt::AccessibleTextRole), QStringLiteral("no message"));
 }
+
+struct Ground {
+    const char* name;
+    QColor window, base, text;
+};
+
+class CheckBoxDrawing : public CallListFixture, public testing::WithParamInterface<Ground> {
+protected:
+    void SetUp() override {
+        QPalette palette;
+        palette.setColor(QPalette::Window, GetParam().window);
+        palette.setColor(QPalette::Base, GetParam().base);
+        palette.setColor(QPalette::Text, GetParam().text);
+        list.setPalette(palette);
+        list.sendMessage(LVM_SETEXTENDEDLISTVIEWSTYLE, LVS_EX_CHECKBOXES, -1);
+    }
+};
+
+TEST_P(CheckBoxDrawing, TheEdgeOfAnUncheckedBoxStandsOutFromTheList) {
+    fill(1);
+    QStyleOptionViewItem cell;
+    cell.initFrom(&view());
+    cell.rect = view().visualRect(view().model()->index(0, 0));
+    cell.features = QStyleOptionViewItem::HasCheckIndicator;
+    const QRect box = view().style()->subElementRect(QStyle::SE_ItemViewItemCheckIndicator, &cell, &view());
+    const QImage drawn = view().viewport()->grab().toImage();
+    for (const QPoint& edge : {QPoint(box.center().x(), box.top()), QPoint(box.center().x(), box.bottom()),
+                               QPoint(box.left(), box.center().y()), QPoint(box.right(), box.center().y())})
+        EXPECT_GE(colour::contrast(drawn.pixelColor(edge), GetParam().base), 3.0)
+            << drawn.pixelColor(edge).name().toStdString();
+}
+
+INSTANTIATE_TEST_SUITE_P(Themes, CheckBoxDrawing,
+                         testing::Values(Ground{"Light", "#efefef", "#ffffff", "#1e1e1e"},
+                                         Ground{"Dark", "#2a2e32", "#1b1e20", "#fcfcfc"}),
+                         [](const auto& theme) { return std::string(theme.param.name); });
 
 TEST_F(ListViewDrawing, TheListIsKnownByItsName) {
     list.SetAccessibleName(QStringLiteral("Calls"));
