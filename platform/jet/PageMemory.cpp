@@ -4,33 +4,39 @@
 
 #include <sys/mman.h>
 
-#include <cstdlib>
 #include <new>
 
 namespace jet {
 namespace {
 
-constexpr std::size_t kHugePage = std::size_t{2} << 20U; // the processor's, where it has them
+constexpr std::size_t kHugePage = std::size_t{2} << 20U;
 
-void* allocate(std::size_t size) {
-    if (size < kHugePage)
-        return std::malloc(size); // NOLINT(cppcoreguidelines-no-malloc): of one kind with the other
-    const std::size_t whole = (size + kHugePage - 1) / kHugePage * kHugePage;
-    void* const bytes = std::aligned_alloc(kHugePage, whole);
-    if (bytes != nullptr)
-        ::madvise(bytes, whole, MADV_HUGEPAGE); // a system without them refuses, and nothing is lost
-    return bytes;
+// The system puts a piece where large pages fit when it is a multiple of them.
+constexpr std::size_t wholeHugePages(std::size_t size) {
+    return (size + kHugePage - 1) / kHugePage * kHugePage;
+}
+
+std::byte* map(std::size_t size) {
+    void* const bytes = ::mmap(nullptr, size, PROT_READ | PROT_WRITE, MAP_PRIVATE | MAP_ANONYMOUS, -1, 0);
+    if (bytes == MAP_FAILED)
+        throw std::bad_alloc();
+    ::madvise(bytes, size, MADV_HUGEPAGE); // a system without them refuses, and nothing is lost
+    return static_cast<std::byte*>(bytes);
 }
 
 } // namespace
 
-PageMemory::PageMemory(std::size_t size) : m_bytes(static_cast<std::byte*>(allocate(size))) {
-    if (!m_bytes)
-        throw std::bad_alloc();
+PageMemory::PageMemory(std::size_t size) {
+    const std::size_t mapped = size < kHugePage ? 0 : wholeHugePages(size);
+    m_bytes =
+        std::unique_ptr<std::byte[], Free>(mapped != 0 ? map(mapped) : new std::byte[size], Free{mapped});
 }
 
 void PageMemory::Free::operator()(std::byte* bytes) const noexcept {
-    std::free(bytes); // NOLINT(cppcoreguidelines-no-malloc)
+    if (mapped != 0)
+        ::munmap(bytes, mapped);
+    else
+        delete[] bytes;
 }
 
 } // namespace jet
