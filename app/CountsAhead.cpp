@@ -55,10 +55,13 @@ bool CountsAhead::mayTakeLong(const share::UncPath& root) const {
     return route.way == share::Way::Server || m_resolver.slowMountOf(route);
 }
 
-// The settings are looked into here, not on the other thread.
+// The settings are looked into here, not on the other thread; a mount may be gone when that one looks, and
+// the server itself be asked.
 void CountsAhead::settle(const share::UncPath& root) {
     m_mapping = m_resolver.mappingOf(root.server());
-    m_servers.server(root.server());
+    const share::ShareResolver withoutMounts([this](std::string_view) { return m_mapping; }, nullptr);
+    if (withoutMounts.resolve(root).way == share::Way::Server)
+        m_servers.server(root.server());
 }
 
 share::ShareResolver CountsAhead::settledResolver() const {

@@ -26,7 +26,7 @@ bool isReadable(int descriptor, std::chrono::milliseconds atMost = {}) {
 } // namespace
 
 Waited ShareWaiter::untilReadable(int descriptor, std::chrono::milliseconds atMost) {
-    if (m_isEnded || isWaiting())
+    if (!mayWait())
         return Waited::Cancelled;
     if (isSoonReadable(descriptor, atMost))
         return Waited::Ready;

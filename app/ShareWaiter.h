@@ -29,6 +29,7 @@ public:
     // The same for the user's input: a list is loaded in less, and then everything stays in its order.
     static constexpr std::chrono::milliseconds kInputPatience{500};
 
+    bool mayWait() const override { return !m_isEnded && !isWaiting(); }
     share::Waited untilReadable(int descriptor, std::chrono::milliseconds atMost) override;
 
     // A part of the wait for a message that is read and decoded, or for others in a database.

@@ -27,6 +27,17 @@ std::int32_t numberFor(int errnoValue) {
     case ENOMEM:
         return kOutOfMemory;
     case EIO:
+    case ECONNABORTED: // and on: a mounted share's answers when its server is not there
+    case ECONNREFUSED:
+    case ECONNRESET:
+    case EHOSTDOWN:
+    case EHOSTUNREACH:
+    case ENETDOWN:
+    case ENETUNREACH:
+    case ENOTCONN:
+    case ESHUTDOWN:
+    case ESTALE:
+    case ETIMEDOUT:
         return kDeviceIoError;
     default:
         return kPathFileAccess;

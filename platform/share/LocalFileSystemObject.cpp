@@ -3,6 +3,7 @@
 #include "platform/share/LocalFileSystemObject.h"
 
 #include "platform/basic/RuntimeError.h"
+#include "platform/share/FirstFailure.h"
 #include "platform/share/FolderListing.h"
 #include "platform/share/LocalFile.h"
 #include "platform/share/NamePattern.h"
@@ -12,7 +13,6 @@
 #include <unistd.h>
 
 #include <cerrno>
-#include <exception>
 
 namespace share {
 namespace {
@@ -78,22 +78,19 @@ std::vector<std::string> LocalFileSystemObject::SubFolders(std::string_view path
 
 void LocalFileSystemObject::DeleteFile(std::string_view pattern, bool force) {
     const UncPath path = UncPath::parsePattern(pattern);
-    const UncPath parent = path.parent();
-    const std::string folder = existingFolder(parent);
-    const std::vector<std::string> names = matching(folder, path.components().back());
+    tryEach(MatchingFiles(path), [&](const std::string& name) { DeleteMatch(path, name, force); });
+}
+
+std::vector<std::string> LocalFileSystemObject::MatchingFiles(const UncPath& pattern) const {
+    std::vector<std::string> names = matching(existingFolder(pattern.parent()), pattern.components().back());
     if (names.empty())
-        throw basic::errorFromErrno(ENOENT, "delete", path.text());
-    std::exception_ptr firstFailure;
-    for (const std::string& name : names) {
-        try {
-            deleteOne(folder + "/" + name, parent.text() + "\\" + name, force);
-        } catch (const basic::RuntimeError&) {
-            if (!firstFailure)
-                firstFailure = std::current_exception();
-        }
-    }
-    if (firstFailure)
-        std::rethrow_exception(firstFailure);
+        throw basic::errorFromErrno(ENOENT, "delete", pattern.text());
+    return names;
+}
+
+void LocalFileSystemObject::DeleteMatch(const UncPath& pattern, const std::string& name, bool force) const {
+    const UncPath parent = pattern.parent();
+    deleteOne(existingFolder(parent) + "/" + name, parent.text() + "\\" + name, force);
 }
 
 std::unique_ptr<File> LocalFileSystemObject::openFile(std::string_view path, OpenMode mode) {

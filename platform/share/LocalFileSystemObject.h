@@ -21,6 +21,11 @@ public:
     void DeleteFile(std::string_view pattern, bool force) override;
     std::unique_ptr<File> openFile(std::string_view path, OpenMode mode) override;
 
+    // The two steps of DeleteFile, for whoever takes them one by one: the names of the files that the pattern
+    // stands for, error 53 without any, and the deletion of one of them.
+    std::vector<std::string> MatchingFiles(const UncPath& pattern) const;
+    void DeleteMatch(const UncPath& pattern, const std::string& name, bool force) const;
+
 private:
     // The name of the operating system for what a path names; error 53 for a missing file, 76 for a missing
     // folder.

@@ -3,87 +3,111 @@
 #include "platform/share/MountCalls.h"
 
 #include "platform/basic/DetachedThread.h"
-#include "platform/basic/RuntimeError.h"
+#include "platform/share/FileDescriptor.h"
 
 #include <sys/eventfd.h>
 #include <sys/statvfs.h>
 
 #include <cerrno>
+#include <mutex>
+#include <vector>
 
 namespace share {
-namespace {
 
-// True for as long as it lives.
-class SetFor {
+// One call, shared by its thread and whoever waits for it or follows it.
+class MountCalls::Call {
 public:
-    explicit SetFor(bool& flag) : m_flag(flag) { m_flag = true; }
-    SetFor(const SetFor&) = delete;
-    SetFor& operator=(const SetFor&) = delete;
-    ~SetFor() { m_flag = false; }
+    static std::shared_ptr<Call> begin(std::function<void()> work) {
+        auto call = std::make_shared<Call>();
+        basic::startDetached([call, work = std::move(work)]() mutable {
+            work();
+            work = nullptr;
+            call->finish();
+        });
+        return call;
+    }
+
+    Call() : m_returned(::eventfd(0, EFD_CLOEXEC | EFD_NONBLOCK)) {
+        if (!m_returned.isOpen())
+            throw basic::errorFromErrno(errno, "wait", "for a mounted folder");
+    }
+
+    // Readable when nothing is left of the call.
+    int returned() const noexcept { return m_returned.get(); }
+    bool isOver() {
+        const std::scoped_lock lock(m_mutex);
+        return m_isOver;
+    }
+    // Takes over what is to be given up after the call; false when it has returned.
+    bool take(std::shared_ptr<void>& resource) {
+        const std::scoped_lock lock(m_mutex);
+        if (!m_isOver)
+            m_leftovers.push_back(std::move(resource));
+        return !m_isOver;
+    }
 
 private:
-    bool& m_flag;
+    void finish() {
+        for (;;) {
+            std::vector<std::shared_ptr<void>> leftovers;
+            {
+                const std::scoped_lock lock(m_mutex);
+                leftovers.swap(m_leftovers);
+                m_isOver = leftovers.empty();
+            }
+            if (leftovers.empty())
+                break;
+            for (std::shared_ptr<void>& resource : leftovers)
+                resource.reset();
+        }
+        ::eventfd_write(m_returned.get(), 1);
+    }
+
+    FileDescriptor m_returned;
+    std::mutex m_mutex;
+    bool m_isOver = false;
+    std::vector<std::shared_ptr<void>> m_leftovers; // in the order of their giving up
 };
 
-} // namespace
-
-void MountCalls::reach(const std::string& mountPoint) {
-    run<void>(mountPoint, Requests::Few, [mountPoint] {
+void MountCalls::reach(const SlowMount& mount) {
+    run<void>(mount, Requests::Few, [mountPoint = mount.mountPoint] {
         struct statvfs size {};
-        if (::statvfs(mountPoint.c_str(), &size) != 0)
-            throw basic::RuntimeError(basic::kPathNotFound,
-                                      basic::errorFromErrno(errno, "reach", mountPoint).description());
+        static_cast<void>(::statvfs(mountPoint.c_str(), &size));
     });
 }
 
-void MountCalls::letGo(const std::string& mountPoint, std::shared_ptr<void> resource) noexcept {
+void MountCalls::letGo(const SlowMount& mount, std::shared_ptr<void> resource) noexcept {
     try {
-        const Signal returned = start([resource = std::move(resource)]() mutable { resource.reset(); });
-        if (mayAnswer(mountPoint))
-            isOver(mountPoint, Requests::Few, returned);
+        const auto leftBehind = m_leftBehind.find(mount.id);
+        if (leftBehind != m_leftBehind.end() && leftBehind->second->take(resource))
+            return;
+        const auto giveUp = [resource = std::move(resource)]() mutable { resource.reset(); };
+        isOver(mount, Requests::Many, Call::begin(giveUp));
     } catch (const std::exception&) { // no thread: it was given up right here
     }
 }
 
-bool MountCalls::mayAnswer(const std::string& mountPoint) {
-    if (m_isWaiting)
-        return false;
-    const auto leftBehind = m_leftBehind.find(mountPoint);
-    if (leftBehind == m_leftBehind.end())
-        return true;
-    eventfd_t returned = 0;
-    if (::eventfd_read(leftBehind->second->get(), &returned) != 0)
-        return false;
-    m_leftBehind.erase(leftBehind);
-    return true;
+bool MountCalls::mayBegin(const SlowMount& mount) {
+    const auto leftBehind = m_leftBehind.find(mount.id);
+    if (leftBehind != m_leftBehind.end() && leftBehind->second->isOver())
+        m_leftBehind.erase(leftBehind);
+    return m_waiter.mayWait() && !m_leftBehind.contains(mount.id);
 }
 
-void MountCalls::carryOut(const std::string& mountPoint, Requests requests, std::function<void()> call) {
-    if (!mayAnswer(mountPoint) || !isOver(mountPoint, requests, start(std::move(call))))
-        throw basic::RuntimeError(basic::kPathNotFound,
-                                  "the mounted folder " + mountPoint + " does not answer");
+void MountCalls::carryOut(const SlowMount& mount, Requests requests, std::function<void()> work) {
+    const std::string silence = "the mounted folder " + mount.mountPoint + " does not answer";
+    if (!mayBegin(mount))
+        throw basic::RuntimeError(basic::kPathNotFound, silence);
+    if (!isOver(mount, requests, Call::begin(std::move(work))))
+        throw CallLeftBehind(silence);
 }
 
-// The signal comes when nothing is left of the call.
-MountCalls::Signal MountCalls::start(std::function<void()> call) {
-    const auto returned = std::make_shared<FileDescriptor>(::eventfd(0, EFD_CLOEXEC | EFD_NONBLOCK));
-    if (!returned->isOpen())
-        throw basic::errorFromErrno(errno, "wait", "for a mounted folder");
-    basic::startDetached([returned, call = std::move(call)]() mutable {
-        call();
-        call = nullptr;
-        ::eventfd_write(returned->get(), 1);
-    });
-    return returned;
-}
-
-bool MountCalls::isOver(const std::string& mountPoint, Requests requests, const Signal& returned) {
+bool MountCalls::isOver(const SlowMount& mount, Requests requests, const std::shared_ptr<Call>& call) {
     const auto atMost = requests == Requests::Many ? m_deadlines.many : m_deadlines.few;
-    const SetFor waiting(m_isWaiting);
-    const Waited waited = m_waiter.untilReadable(returned->get(), atMost);
-    if (waited == Waited::TimeOver)
-        m_leftBehind[mountPoint] = returned;
-    return waited == Waited::Ready;
+    if (m_waiter.mayWait() && m_waiter.untilReadable(call->returned(), atMost) == Waited::Ready)
+        return true;
+    m_leftBehind[mount.id] = call;
+    return false;
 }
 
 } // namespace share

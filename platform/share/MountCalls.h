@@ -1,13 +1,14 @@
 // SPDX-FileCopyrightText: 2026 The qmClient authors
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
-// Calls into mounted folders that a server or a program answers for. Such a call can hang for minutes, or for
-// ever, and nothing ends it; so each is made on a thread of its own, and the caller waits as its waiter says.
-// A call that does not return in its time is left behind: its thread goes on, and what it brings is thrown
-// away. Until it returns, every further call into that mount fails at once, so that threads do not pile up
-// there. One thread uses an object; the waiter must outlive it.
+// Calls into mounts that a server or a program answers for. Such a call can hang for minutes, or for ever,
+// and nothing ends it; so each is made on a thread of its own, and the caller waits as its waiter says. A
+// call that does not return in its time, or whose wait is cancelled, is left behind: its thread goes on, and
+// what it brings is thrown away. Until it returns, no further call into that mount is begun, so that threads
+// do not pile up there. One thread uses an object; the waiter must outlive it.
 
-#include "platform/share/FileDescriptor.h"
+#include "platform/basic/RuntimeError.h"
+#include "platform/share/MountTable.h"
 #include "platform/share/Waiter.h"
 
 #include <chrono>
@@ -28,6 +29,13 @@ struct MountDeadlines {
     std::chrono::milliseconds many{30'000};
 };
 
+// Error 76 of a call that was begun: what it is about is in use until it returns.
+class CallLeftBehind final : public basic::RuntimeError {
+public:
+    explicit CallLeftBehind(std::string description)
+        : RuntimeError(basic::kPathNotFound, std::move(description)) {}
+};
+
 class MountCalls {
 public:
     enum class Requests { Few, Many };
@@ -35,35 +43,34 @@ public:
     explicit MountCalls(Waiter& waiter, MountDeadlines deadlines = {})
         : m_waiter(waiter), m_deadlines(deadlines) {}
 
-    // Asks the file system at `mountPoint` for its size, which is not answered from a cache. Error 76 when
-    // there is no answer.
-    void reach(const std::string& mountPoint);
+    // Asks the file system for its size, which hardly any answers from memory. Throws as run() does when
+    // nobody answers; whatever the answer is, somebody did.
+    void reach(const SlowMount& mount);
 
     // What `work` answers or throws. It must own, or share, all it touches; nothing of it is left when this
-    // returns. Error 76 when it is left behind, or not begun: because the mount is known not to answer, or
-    // from inside of another call's wait. 7 without a thread.
+    // returns. CallLeftBehind; error 76 when it is not begun, because the mount is known not to answer or the
+    // waiter must not wait; 7 without a thread.
     template <typename Result>
-    Result run(const std::string& mountPoint, Requests requests, std::function<Result()> work) {
+    Result run(const SlowMount& mount, Requests requests, std::function<Result()> work) {
         auto task = std::make_shared<std::packaged_task<Result()>>(std::move(work));
         std::future<Result> result = task->get_future();
-        carryOut(mountPoint, requests, [task = std::move(task)] { (*task)(); });
+        carryOut(mount, requests, [task = std::move(task)] { (*task)(); });
         return result.get();
     }
-    // Gives up what lies on the mount, at the latest when it answers again.
-    void letGo(const std::string& mountPoint, std::shared_ptr<void> resource) noexcept;
+    // Gives up what lies on the mount: after the call that was left behind there, if there is one, and in the
+    // order of the calls of this.
+    void letGo(const SlowMount& mount, std::shared_ptr<void> resource) noexcept;
 
 private:
-    using Signal = std::shared_ptr<FileDescriptor>;
+    class Call;
 
-    bool mayAnswer(const std::string& mountPoint);
-    void carryOut(const std::string& mountPoint, Requests requests, std::function<void()> call);
-    static Signal start(std::function<void()> call);
-    bool isOver(const std::string& mountPoint, Requests requests, const Signal& returned);
+    bool mayBegin(const SlowMount& mount);
+    void carryOut(const SlowMount& mount, Requests requests, std::function<void()> work);
+    bool isOver(const SlowMount& mount, Requests requests, const std::shared_ptr<Call>& call);
 
     Waiter& m_waiter;
     const MountDeadlines m_deadlines;
-    bool m_isWaiting = false;
-    std::map<std::string, Signal> m_leftBehind; // by mount point: what comes when the call returns
+    std::map<std::string, std::shared_ptr<Call>> m_leftBehind; // by mount
 };
 
 } // namespace share

@@ -7,6 +7,7 @@
 #include <algorithm>
 #include <array>
 #include <charconv>
+#include <filesystem>
 #include <fstream>
 #include <iterator>
 #include <optional>
@@ -19,9 +20,10 @@ constexpr std::array<std::string_view, 2> kShareTypes{"cifs", "smb3"};
 constexpr std::array<std::string_view, 6> kOptionsWithoutLocks{
     "nobrl", "cache=loose", "cache=singleclient", "nolock", "local_lock=all", "local_lock=posix"};
 // autofs mounts at the first step into the folder.
-constexpr std::array<std::string_view, 9> kServerTypes{"cifs", "smb3", "nfs",    "nfs4",  "9p",
-                                                       "ceph", "afs",  "lustre", "autofs"};
+constexpr std::array<std::string_view, 12> kServerTypes{
+    "cifs", "smb3", "nfs", "nfs4", "9p", "ceph", "afs", "coda", "lustre", "virtiofs", "vboxsf", "autofs"};
 constexpr std::string_view kLayersType = "fuse.fuse-overlayfs";
+constexpr std::size_t kIdField = 0;
 constexpr std::size_t kDeviceField = 2;
 constexpr std::size_t kRootField = 3;
 constexpr std::size_t kMountPointField = 4;
@@ -67,6 +69,7 @@ std::vector<std::string> pathParts(std::string_view escaped) {
 }
 
 struct MountLine {
+    std::string_view id;
     std::string_view device;
     std::string_view root;
     std::string_view mountPoint;
@@ -83,8 +86,9 @@ std::optional<MountLine> mountLine(std::string_view line) {
     const auto behind = fields.end() - dash;
     if (behind < 3)
         return std::nullopt;
-    return MountLine{fields[kDeviceField],     fields[kRootField], fields[kMountPointField], dash[1], dash[2],
-                     behind > 3 ? dash[3] : ""};
+    return MountLine{
+        fields[kIdField], fields[kDeviceField],     fields[kRootField], fields[kMountPointField], dash[1],
+        dash[2],          behind > 3 ? dash[3] : ""};
 }
 
 template <typename Known, typename Value>
@@ -136,11 +140,17 @@ bool keepsLocks(const MountLine& line) {
                                [](std::string_view option) { return isOneOf(kOptionsWithoutLocks, option); });
 }
 
-bool liesIn(std::string_view mountPoint, std::string_view folder) {
+bool liesIn(std::string_view mountPoint, std::string_view path) {
     if (mountPoint == "/")
-        return folder.starts_with('/');
-    return folder.starts_with(mountPoint) &&
-           (folder.size() == mountPoint.size() || folder[mountPoint.size()] == '/');
+        return path.starts_with('/');
+    return path.starts_with(mountPoint) &&
+           (path.size() == mountPoint.size() || path[mountPoint.size()] == '/');
+}
+
+// A mapping is typed by people: "//mnt/q/" and "/mnt/./q" are "/mnt/q".
+std::string withoutDetours(std::string_view path) {
+    const std::string normal = std::filesystem::path(path).lexically_normal().string();
+    return normal.substr(std::min(normal.find_first_not_of('/'), normal.size())).insert(0, 1, '/');
 }
 
 } // namespace
@@ -150,8 +160,8 @@ MountTable::MountTable(std::string_view mountInfo) {
         const std::optional<MountLine> line = mountLine(text);
         if (!line)
             continue;
-        m_mounts.push_back(
-            {unescaped(line->mountPoint), isOneOf(kServerTypes, line->type) || isOfAProgram(line->type)});
+        m_mounts.push_back({{std::string(line->id), unescaped(line->mountPoint)},
+                            isOneOf(kServerTypes, line->type) || isOfAProgram(line->type)});
         if (std::optional<ShareMount> mount = shareMount(*line))
             m_shares.push_back(std::move(*mount));
         const std::optional<dev_t> device = deviceOf(line->device);
@@ -160,14 +170,16 @@ MountTable::MountTable(std::string_view mountInfo) {
     }
 }
 
-std::optional<std::string> MountTable::slowMountOf(std::string_view folder) const {
+std::optional<SlowMount> MountTable::slowMountOf(std::string_view path) const {
+    const std::string normal = withoutDetours(path);
     const Mount* best = nullptr;
-    for (const Mount& mount : m_mounts)
+    for (const Mount& candidate : m_mounts) {
+        const std::string& point = candidate.mount.mountPoint;
         // Of two at the same place the later one hides the earlier one.
-        if (liesIn(mount.mountPoint, folder) &&
-            (best == nullptr || mount.mountPoint.size() >= best->mountPoint.size()))
-            best = &mount;
-    return best != nullptr && best->isSlow ? std::optional(best->mountPoint) : std::nullopt;
+        if (liesIn(point, normal) && (best == nullptr || point.size() >= best->mount.mountPoint.size()))
+            best = &candidate;
+    }
+    return best != nullptr && best->isSlow ? std::optional(best->mount) : std::nullopt;
 }
 
 bool MountTable::locksAreShared(dev_t device) const {

@@ -23,6 +23,12 @@ struct ShareMount {
     std::string mountPoint;
 };
 
+// A mount that a server or a program answers for: any call there takes as long as they do.
+struct SlowMount {
+    std::string id; // no other mount has it as long as a call into this one lasts
+    std::string mountPoint;
+};
+
 // Where the text comes from; asked for each question, because mounts come and go.
 using MountInfo = std::function<std::string()>;
 
@@ -33,10 +39,9 @@ public:
     // In the order of mounting.
     const std::vector<ShareMount>& shares() const noexcept { return m_shares; }
 
-    // Where the file system is mounted that `folder` lies on, if a server or a program answers for it: any
-    // call there takes as long as they do. Nothing for the disks of this machine. `folder` is absolute;
-    // symbolic links in it are not followed.
-    std::optional<std::string> slowMountOf(std::string_view folder) const;
+    // The one that `path` lies on; nothing for the disks of this machine. `path` is absolute; symbolic links
+    // in it are not followed.
+    std::optional<SlowMount> slowMountOf(std::string_view path) const;
 
     // False for the files of a mount whose locks hold among the programs of this machine only, and of one
     // that shows what it remembers in place of what the server has by now. They cannot be told by trying.
@@ -47,7 +52,7 @@ public:
 
 private:
     struct Mount {
-        std::string mountPoint;
+        SlowMount mount;
         bool isSlow = false;
     };
 

@@ -1,9 +1,9 @@
 // SPDX-FileCopyrightText: 2026 The qmClient authors
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
-// A file on a mounted folder that a server or a program answers for: a LocalFile whose every call is made by
-// way of MountCalls. A file whose call does not return is lost, as one whose connection to its server is
-// gone: ConnectionLost from then on. The calls must outlive it; the file is closed without it if need be.
+// A file on a mount that a server or a program answers for: a LocalFile whose every call is made by way of
+// MountCalls. Reads and writes take their time piece by piece. A failure of the connection to the server is
+// ConnectionLost; a file whose call was left behind stays lost. The calls must outlive it.
 
 #include "platform/share/File.h"
 #include "platform/share/MountCalls.h"
@@ -16,10 +16,9 @@ namespace share {
 class MountedFile final : public File {
 public:
     // `file` is opened there already.
-    MountedFile(MountCalls& calls, std::string mountPoint, std::shared_ptr<File> file)
-        : m_calls(calls), m_mountPoint(std::move(mountPoint)), m_name(file->name()), m_file(std::move(file)) {
-    }
-    ~MountedFile() override { m_calls.letGo(m_mountPoint, std::move(m_file)); }
+    MountedFile(MountCalls& calls, SlowMount mount, std::shared_ptr<File> file)
+        : m_calls(calls), m_mount(std::move(mount)), m_name(file->name()), m_file(std::move(file)) {}
+    ~MountedFile() override { m_calls.letGo(m_mount, std::move(m_file)); }
 
     const std::string& name() const override { return m_name; }
     std::uint64_t size() override;
@@ -32,12 +31,13 @@ public:
 private:
     template <typename Result, typename Work>
     Result call(Work work, MountCalls::Requests requests = MountCalls::Requests::Few);
+    std::size_t readPiece(std::uint64_t offset, std::span<std::byte> into);
 
     MountCalls& m_calls;
-    const std::string m_mountPoint;
+    const SlowMount m_mount;
     const std::string m_name;
     std::shared_ptr<File> m_file;
-    bool m_isLost = false;
+    bool m_isLost = false; // a call that was left behind uses it still
 };
 
 } // namespace share

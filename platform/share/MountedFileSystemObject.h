@@ -34,12 +34,14 @@ private:
     // What another thread needs to know of a path.
     struct Place {
         ShareResolver resolver;
-        std::optional<std::string> mountPoint; // nothing: a disk of this machine
+        std::optional<SlowMount> mount; // nothing: a disk of this machine
     };
 
     Place placeOf(const UncPath& path) const;
     template <typename Result, typename Question>
     Result ask(const Place& place, Question question);
+    template <typename Result, typename Question>
+    Result askMount(const Place& place, MountCalls::Requests requests, Question question);
     template <typename Question>
     bool exists(std::string_view path, Question question);
 

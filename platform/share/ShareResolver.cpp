@@ -35,10 +35,13 @@ Route ShareResolver::resolve(const UncPath& path) const {
     return {Way::Server, {}, path.components()};
 }
 
-std::optional<std::string> ShareResolver::slowMountOf(const Route& route) const {
+std::optional<SlowMount> ShareResolver::slowMountOf(const Route& route) const {
     if (!m_mountInfo || route.way != Way::Folder)
         return std::nullopt;
-    return MountTable(m_mountInfo()).slowMountOf(route.folder);
+    std::string end = route.folder;
+    for (const std::string& component : route.components)
+        end.append("/").append(component);
+    return MountTable(m_mountInfo()).slowMountOf(end);
 }
 
 ShareResolver ShareResolver::settledFor(const UncPath& path) const {

@@ -36,8 +36,8 @@ public:
         : m_mapping(std::move(mapping)), m_mountInfo(std::move(mountInfo)) {}
 
     Route resolve(const UncPath& path) const;
-    // The mount that a route's folder lies on, if a server or a program answers for it (MountTable).
-    std::optional<std::string> slowMountOf(const Route& route) const;
+    // The mount that the end of a route lies on, if a server or a program answers for it.
+    std::optional<SlowMount> slowMountOf(const Route& route) const;
     // One that keeps what the administrator's mapping says of the path's server now: for another thread,
     // which must not look into the settings, and for paths of that server alone.
     ShareResolver settledFor(const UncPath& path) const;

@@ -17,6 +17,11 @@ ThreadWaiter::ThreadWaiter() : m_cancelled(::eventfd(0, EFD_CLOEXEC | EFD_NONBLO
         throw basic::errorFromErrno(errno, "wait", "for a server");
 }
 
+bool ThreadWaiter::mayWait() const {
+    pollfd cancelled{m_cancelled.get(), POLLIN, 0};
+    return ::poll(&cancelled, 1, 0) == 0;
+}
+
 Waited ThreadWaiter::untilReadable(int descriptor, std::chrono::milliseconds atMost) {
     std::array<pollfd, 2> watched{{{m_cancelled.get(), POLLIN, 0}, {descriptor, POLLIN, 0}}};
     const int part = static_cast<int>(partOf(atMost).count());

@@ -12,6 +12,7 @@ class ThreadWaiter final : public Waiter {
 public:
     ThreadWaiter();
 
+    bool mayWait() const override;
     Waited untilReadable(int descriptor, std::chrono::milliseconds atMost) override;
     void cancel() noexcept;
 

@@ -26,6 +26,9 @@ public:
     Waiter& operator=(const Waiter&) = delete;
     virtual ~Waiter() = default;
 
+    // False when a wait would end at once as cancelled: whoever cannot take back what he begins asks first.
+    virtual bool mayWait() const { return true; }
+
     // Returns when `descriptor` can be read (or its other end is gone), when the time is over, or when the
     // program is to end and nobody waits for servers any more.
     virtual Waited untilReadable(int descriptor, std::chrono::milliseconds atMost) = 0;

@@ -15,12 +15,15 @@ using namespace std::chrono_literals;
 using share::Waited;
 
 TEST_F(ShareWaiterTest, LetsEventsRunUntilTheAnswerComes) {
+    EXPECT_TRUE(m_waiter.mayWait());
     QTimer::singleShot(0, &m_waiter, [this] {
         EXPECT_TRUE(m_waiter.isWaiting());
+        EXPECT_FALSE(m_waiter.mayWait());
         answer();
     });
     EXPECT_EQ(wait(), Waited::Ready);
     EXPECT_FALSE(m_waiter.isWaiting());
+    EXPECT_TRUE(m_waiter.mayWait());
 }
 
 TEST_F(ShareWaiterTest, EndsAtTheDeadline) {
@@ -52,6 +55,7 @@ TEST_F(ShareWaiterTest, IsCancelledByTheEndOfTheProgram) {
     answer();
     EXPECT_EQ(wait(), Waited::Cancelled);
     EXPECT_TRUE(m_waiter.isEnded());
+    EXPECT_FALSE(m_waiter.mayWait());
 }
 
 TEST_F(ShareWaiterTest, IsCancelledWhenTheEventLoopsEnd) {

@@ -3,12 +3,12 @@
 #include "platform/share/smb/SmbFileSystemObject.h"
 
 #include "platform/basic/RuntimeError.h"
+#include "platform/share/FirstFailure.h"
 #include "platform/share/FolderListing.h"
 #include "platform/share/NamePattern.h"
 #include "platform/share/smb/SmbFile.h"
 
 #include <cerrno>
-#include <exception>
 #include <optional>
 
 namespace share::smb {
@@ -58,17 +58,9 @@ std::vector<std::string> SmbFileSystemObject::SubFolders(std::string_view path) 
 }
 
 void SmbFileSystemObject::DeleteFile(std::string_view pattern, bool force) {
-    std::exception_ptr firstFailure;
-    for (const UncPath& file : matching(UncPath::parsePattern(pattern))) {
-        try {
-            ask(file, {.verb = Verb::Delete, .mode = static_cast<std::uint8_t>(force)}, "delete");
-        } catch (const basic::RuntimeError&) {
-            if (!firstFailure)
-                firstFailure = std::current_exception();
-        }
-    }
-    if (firstFailure)
-        std::rethrow_exception(firstFailure);
+    tryEach(matching(UncPath::parsePattern(pattern)), [&](const UncPath& file) {
+        ask(file, {.verb = Verb::Delete, .mode = static_cast<std::uint8_t>(force)}, "delete");
+    });
 }
 
 std::vector<UncPath> SmbFileSystemObject::matching(const UncPath& pattern) {

@@ -27,6 +27,9 @@ TEST(RuntimeError, ErrnoBecomesThePlatformsNumberWithContext) {
     // What a mounted share answers while somebody has the file for himself.
     EXPECT_EQ(errorFromErrno(EBUSY, "open", "/x").number(), kFileAlreadyOpen);
     EXPECT_EQ(errorFromErrno(ETXTBSY, "open", "/x").number(), kFileAlreadyOpen);
+    // And while its server is not there.
+    for (const int gone : {EIO, EHOSTDOWN, ENOTCONN, ESTALE, ETIMEDOUT})
+        EXPECT_EQ(errorFromErrno(gone, "read", "/x").number(), kDeviceIoError) << gone;
     EXPECT_EQ(errorFromErrno(ENOENT, "open", "/x").description(), "open: /x: No such file or directory");
 }
 

@@ -34,6 +34,10 @@ public:
         m_state->changed.notify_all();
         m_state->changed.wait(lock, [this] { return m_state->calls == 0; });
     }
+    void awaitHangingCall() {
+        std::unique_lock lock(m_state->mutex);
+        m_state->changed.wait(lock, [this] { return m_state->calls > 0; });
+    }
     int hangingCalls() const {
         const std::scoped_lock lock(m_state->mutex);
         return m_state->calls;
@@ -57,6 +61,7 @@ private:
             std::unique_lock lock(mutex);
             if (std::this_thread::get_id() != test) {
                 ++calls;
+                changed.notify_all();
                 changed.wait(lock, [this] { return !isHanging; });
                 --calls;
                 changed.notify_all();

@@ -2,52 +2,28 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "platform/share/MountCalls.h"
 
-#include "platform/share/ThreadWaiter.h"
+#include "tests/platform/share/DirectedWaiter.h"
 #include "tests/platform/share/ExpectError.h"
 #include "tests/platform/share/TemporaryFolder.h"
 
-#include <unistd.h>
+#include <gmock/gmock.h>
 
 #include <functional>
 #include <latch>
 #include <memory>
+#include <string>
 #include <thread>
-#include <utility>
 
 namespace share::testing {
 namespace {
 
 using namespace std::chrono_literals;
+using ::testing::ElementsAre;
 
-constexpr auto kMount = "/mnt/q";
-constexpr auto kOtherMount = "/mnt/r";
+const SlowMount kMount{"41", "/mnt/q"};
+const SlowMount kOtherMount{"42", "/mnt/q"}; // at the same place later
 constexpr auto kFew = MountCalls::Requests::Few;
 constexpr auto kMany = MountCalls::Requests::Many;
-constexpr auto kLong = 60min;
-
-// Does something else before it waits, and keeps what it waits for.
-class BusyWaiter final : public Waiter {
-public:
-    Waited untilReadable(int descriptor, std::chrono::milliseconds atMost) override {
-        ++waits;
-        longest = atMost;
-        m_last = FileDescriptor(::dup(descriptor));
-        if (const auto now = std::exchange(meanwhile, nullptr))
-            now();
-        return m_waiter.untilReadable(descriptor, atMost);
-    }
-    // The call that was waited for last has returned, whether it was waited for to the end or not.
-    void awaitLast() { ASSERT_EQ(m_waiter.untilReadable(m_last.get(), kLong), Waited::Ready); }
-    void cancel() noexcept { m_waiter.cancel(); }
-
-    std::function<void()> meanwhile;
-    int waits = 0;
-    std::chrono::milliseconds longest{}; // that the last wait may take
-
-private:
-    ThreadWaiter m_waiter;
-    FileDescriptor m_last;
-};
 
 class MountCallsTest : public ::testing::Test {
 protected:
@@ -63,14 +39,36 @@ protected:
     static std::function<int()> quick() {
         return [] { return 2; };
     }
+    void leaveACallBehind() {
+        m_waiter.patience = 0;
+        EXPECT_THROW(m_calls.run<int>(kMount, kFew, hanging()), CallLeftBehind);
+        m_waiter.patience = 100;
+    }
+    void expectNotBegun(const SlowMount& mount) {
+        try {
+            m_calls.run<void>(mount, kMany, [] {});
+            FAIL() << "it was carried out";
+        } catch (const CallLeftBehind&) {
+            FAIL() << "it was begun";
+        } catch (const basic::RuntimeError& error) {
+            EXPECT_EQ(error.number(), basic::kPathNotFound);
+        }
+    }
     void goOn() const {
         if (!m_gate->try_wait())
             m_gate->count_down();
     }
+    // Tells when it is given up.
+    static std::shared_ptr<void> resource(std::function<void()> givenUp) {
+        return {new int, [givenUp = std::move(givenUp)](const int* owned) {
+                    delete owned;
+                    givenUp();
+                }};
+    }
 
     const std::shared_ptr<std::latch> m_gate = std::make_shared<std::latch>(1);
-    BusyWaiter m_waiter;
-    MountCalls m_calls{m_waiter, {.few = 50ms, .many = kLong}};
+    DirectedWaiter m_waiter;
+    MountCalls m_calls{m_waiter};
 };
 
 TEST_F(MountCallsTest, AnswersWhatTheCallAnswersAndThrowsWhatItThrows) {
@@ -91,74 +89,89 @@ TEST_F(MountCallsTest, KeepsNothingOfACallThatReturned) {
     EXPECT_EQ(held.use_count(), 1);
 }
 
-TEST_F(MountCallsTest, LeavesACallBehindThatDoesNotReturnInTime) {
-    EXPECT_ERROR(basic::kPathNotFound, m_calls.run<int>(kMount, kFew, hanging()));
-}
-
 TEST_F(MountCallsTest, GivesMoreTimeToWhatTakesManyRequests) {
     m_calls.run<int>(kMount, kFew, quick());
-    EXPECT_EQ(m_waiter.longest, 50ms);
     m_calls.run<int>(kMount, kMany, quick());
-    EXPECT_EQ(m_waiter.longest, kLong);
+    EXPECT_THAT(m_waiter.waits, ElementsAre(3s, 30s));
 }
 
-TEST_F(MountCallsTest, BeginsNoOtherCallThereUntilItReturns) {
-    EXPECT_ERROR(basic::kPathNotFound, m_calls.run<int>(kMount, kFew, hanging()));
-    bool isBegun = false;
-    EXPECT_ERROR(basic::kPathNotFound, m_calls.run<void>(kMount, kMany, [&] { isBegun = true; }));
-    EXPECT_FALSE(isBegun);
+TEST_F(MountCallsTest, BeginsNoCallBesideOneThatWasLeftBehind) {
+    leaveACallBehind();
+    expectNotBegun(kMount);
     EXPECT_EQ(m_calls.run<int>(kOtherMount, kMany, quick()), 2);
 }
 
 TEST_F(MountCallsTest, AnswersAgainOnceItReturned) {
-    EXPECT_ERROR(basic::kPathNotFound, m_calls.run<int>(kMount, kFew, hanging()));
+    leaveACallBehind();
     goOn();
-    m_waiter.awaitLast();
+    EXPECT_EQ(m_waiter.awaitLast(), Waited::Ready);
     EXPECT_EQ(m_calls.run<int>(kMount, kMany, quick()), 2);
 }
 
-TEST_F(MountCallsTest, ACancelledWaitSaysNothingOfTheMount) {
-    m_waiter.cancel();
-    EXPECT_ERROR(basic::kPathNotFound, m_calls.run<int>(kMount, kMany, hanging()));
-    std::latch begun(1);
-    EXPECT_ERROR(basic::kPathNotFound, m_calls.run<void>(kMount, kMany, [&] { begun.count_down(); }));
-    begun.wait();
+TEST_F(MountCallsTest, ACallWhoseWaitIsCancelledIsLeftBehindAsWell) {
+    m_waiter.meanwhile = [this] { m_waiter.isCancelled = true; };
+    EXPECT_THROW(m_calls.run<int>(kMount, kMany, hanging()), CallLeftBehind);
+    m_waiter.isCancelled = false;
+    expectNotBegun(kMount);
 }
 
-TEST_F(MountCallsTest, ACallInsideOfAnotherOnesWaitIsNotBegun) {
-    bool isBegun = false;
-    m_waiter.meanwhile = [&] {
-        EXPECT_ERROR(basic::kPathNotFound, m_calls.run<void>(kMount, kMany, [&] { isBegun = true; }));
-    };
+TEST_F(MountCallsTest, BeginsNothingThatItMayNotWaitFor) {
+    m_waiter.isCancelled = true;
+    expectNotBegun(kMount);
+}
+
+TEST_F(MountCallsTest, BeginsNothingInsideOfAnotherCallsWait) {
+    m_waiter.meanwhile = [this] { expectNotBegun(kMount); };
     EXPECT_EQ(m_calls.run<int>(kMount, kMany, quick()), 2);
-    EXPECT_FALSE(isBegun);
+    EXPECT_EQ(m_waiter.meanwhile, nullptr);
     EXPECT_EQ(m_calls.run<int>(kMount, kMany, quick()), 2);
 }
 
 TEST_F(MountCallsTest, GivesUpWhatLiesOnTheMountBeforeItReturns) {
-    auto resource = std::make_shared<int>(0);
-    const std::weak_ptr<int> watched = resource;
-    MountCalls calls(m_waiter);
-    calls.letGo(kMount, std::move(resource));
-    EXPECT_TRUE(watched.expired());
+    bool isGivenUp = false;
+    m_calls.letGo(kMount, resource([&] { isGivenUp = true; }));
+    EXPECT_TRUE(isGivenUp);
 }
 
-// Its giving up hangs as everything there does.
-TEST_F(MountCallsTest, WaitsForNothingGivenUpOnAMountThatDoesNotAnswer) {
-    EXPECT_ERROR(basic::kPathNotFound, m_calls.run<int>(kMount, kFew, hanging()));
-    m_calls.letGo(kMount, std::shared_ptr<void>(nullptr, [gate = m_gate](void*) { gate->wait(); }));
-    EXPECT_EQ(m_waiter.waits, 1);
+// A lock outlives the write that it protects.
+TEST_F(MountCallsTest, GivesUpInOrderAndOnlyAfterTheCallThatWasLeftBehind) {
+    leaveACallBehind();
+    const auto order = std::make_shared<std::string>();
+    m_calls.letGo(kMount, resource([order] { *order += "database "; }));
+    m_calls.letGo(kMount, resource([order] { *order += "lock"; }));
+    EXPECT_EQ(m_waiter.waits.size(), 1U);
+    EXPECT_EQ(*order, "");
+    goOn();
+    EXPECT_EQ(m_waiter.awaitLast(), Waited::Ready);
+    EXPECT_EQ(*order, "database lock");
 }
 
-TEST_F(MountCallsTest, ReachesAFolderThatIsThere) {
+TEST_F(MountCallsTest, GivesUpInOrderAlsoWhenItMayNotWait) {
+    m_waiter.isCancelled = true;
+    const auto order = std::make_shared<std::string>();
+    const auto lockIsFree = std::make_shared<std::latch>(1);
+    m_calls.letGo(kMount, resource([order, gate = m_gate] {
+                      gate->wait();
+                      *order += "database ";
+                  }));
+    m_calls.letGo(kMount, resource([order, lockIsFree] {
+                      *order += "lock";
+                      lockIsFree->count_down();
+                  }));
+    goOn();
+    lockIsFree->wait();
+    EXPECT_EQ(*order, "database lock");
+}
+
+TEST_F(MountCallsTest, ReachesWhateverAnswers) {
     const TemporaryFolder folder;
-    MountCalls calls(m_waiter);
-    calls.reach(folder.path());
-    EXPECT_ERROR(basic::kPathNotFound, calls.reach(folder.path("missing")));
+    m_calls.reach({"41", folder.path()});
+    m_calls.reach({"41", folder.path("missing")}); // the next call tells better what is wrong
+    EXPECT_THAT(m_waiter.waits, ElementsAre(3s, 3s));
 }
 
 TEST_F(MountCallsTest, ReachesNoMountThatHangs) {
-    EXPECT_ERROR(basic::kPathNotFound, m_calls.run<int>(kMount, kFew, hanging()));
+    leaveACallBehind();
     EXPECT_ERROR(basic::kPathNotFound, m_calls.reach(kMount));
 }
 

@@ -70,32 +70,43 @@ TEST(MountTable, LocksOfOtherMountsAreShared) {
             << device;
 }
 
+std::string slowMount(const std::string& table, std::string_view path) {
+    const std::optional<SlowMount> mount = MountTable(table).slowMountOf(path);
+    return mount ? mount->id + " " + mount->mountPoint : "none";
+}
+
 TEST(MountTable, KnowsTheMountsThatServersAndProgramsAnswerFor) {
     for (const char* type : {"cifs", "smb3", "nfs", "nfs4", "9p", "autofs", "fuse", "fuse.sshfs"}) {
-        const MountTable table("22 1 8:1 / / rw - ext4 /dev/sda1 rw\n41 22 0:40 / /mnt/q rw - " +
-                               std::string(type) + " srv:/share rw\n");
-        EXPECT_EQ(table.slowMountOf("/mnt/q/MBX"), "/mnt/q") << type;
-        EXPECT_EQ(table.slowMountOf("/mnt/q"), "/mnt/q") << type;
-        EXPECT_EQ(table.slowMountOf("/mnt/qm"), std::nullopt) << type;
-        EXPECT_EQ(table.slowMountOf("/mnt"), std::nullopt) << type;
+        const std::string table = "22 1 8:1 / / rw - ext4 /dev/sda1 rw\n41 22 0:40 / /mnt/q rw - " +
+                                  std::string(type) + " srv:/share rw\n";
+        EXPECT_EQ(slowMount(table, "/mnt/q/MBX"), "41 /mnt/q") << type;
+        EXPECT_EQ(slowMount(table, "/mnt/q"), "41 /mnt/q") << type;
+        EXPECT_EQ(slowMount(table, "/mnt/qm"), "none") << type;
+        EXPECT_EQ(slowMount(table, "/mnt"), "none") << type;
     }
     for (const char* type : {"ext4", "tmpfs", "fuseblk", "fuse.fuse-overlayfs", "nfsd"})
-        EXPECT_EQ(MountTable("41 22 0:40 / /mnt/q rw - " + std::string(type) + " x rw").slowMountOf("/mnt/q"),
-                  std::nullopt)
+        EXPECT_EQ(slowMount("41 22 0:40 / /mnt/q rw - " + std::string(type) + " x rw", "/mnt/q"), "none")
             << type;
 }
 
 TEST(MountTable, AsksTheMountThatLiesOnTop) {
-    const MountTable table("22 1 0:20 / / rw - nfs srv:/root rw\n"
-                           "41 22 8:1 / /home rw - ext4 /dev/sda1 rw\n"
-                           "42 41 0:40 / /home/a\\040b rw - fuse.sshfs srv: rw\n"
-                           "43 22 0:41 / /mnt rw - cifs //srv/share rw\n"
-                           "44 43 0:42 / /mnt rw - tmpfs none rw\n");
-    EXPECT_EQ(table.slowMountOf("/srv"), "/");
-    EXPECT_EQ(table.slowMountOf("/home/c"), std::nullopt);
-    EXPECT_EQ(table.slowMountOf("/home/a b/c"), "/home/a b");
-    EXPECT_EQ(table.slowMountOf("/mnt/c"), std::nullopt);
-    EXPECT_EQ(MountTable("").slowMountOf("/mnt"), std::nullopt);
+    const std::string table = "22 1 0:20 / / rw - nfs srv:/root rw\n"
+                              "41 22 8:1 / /home rw - ext4 /dev/sda1 rw\n"
+                              "42 41 0:40 / /home/a\\040b rw - fuse.sshfs srv: rw\n"
+                              "43 22 0:41 / /mnt rw - cifs //srv/share rw\n"
+                              "44 43 0:42 / /mnt rw - tmpfs none rw\n";
+    EXPECT_EQ(slowMount(table, "/srv"), "22 /");
+    EXPECT_EQ(slowMount(table, "/home/c"), "none");
+    EXPECT_EQ(slowMount(table, "/home/a b/c"), "42 /home/a b");
+    EXPECT_EQ(slowMount(table, "/mnt/c"), "none");
+    EXPECT_EQ(slowMount("", "/mnt"), "none");
+}
+
+TEST(MountTable, SeesThroughDetours) {
+    const std::string table = "22 1 8:1 / / rw - ext4 /dev/sda1 rw\n41 22 0:40 / /mnt/q rw - nfs s:/ rw\n";
+    for (const char* path : {"//mnt/q", "/mnt//q/", "/mnt/./q", "/srv/../mnt/q", "/../mnt/q/MBX/.."})
+        EXPECT_EQ(slowMount(table, path), "41 /mnt/q") << path;
+    EXPECT_EQ(slowMount(table, "/mnt/q/.."), "none");
 }
 
 TEST(MountTable, PassesOverLinesThatCannotBeRead) {

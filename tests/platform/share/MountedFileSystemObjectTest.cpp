@@ -3,13 +3,15 @@
 #include "platform/share/MountedFileSystemObject.h"
 
 #include "platform/share/ConnectionLost.h"
-#include "platform/share/ThreadWaiter.h"
+#include "platform/share/LocalFile.h"
+#include "tests/platform/share/DirectedWaiter.h"
 #include "tests/platform/share/ExpectError.h"
 #include "tests/platform/share/HangingMount.h"
 
 #include <gmock/gmock.h>
 
 #include <array>
+#include <cerrno>
 #include <filesystem>
 #include <vector>
 
@@ -19,24 +21,12 @@ namespace {
 using namespace std::chrono_literals;
 using ::testing::Each;
 using ::testing::ElementsAre;
+using ::testing::SizeIs;
 using ::testing::UnorderedElementsAre;
 
 std::string unc(std::string_view below) {
     return "\\\\srv\\Quillamar_0$\\" + std::string(below);
 }
-
-class NotingWaiter final : public Waiter {
-public:
-    Waited untilReadable(int descriptor, std::chrono::milliseconds atMost) override {
-        waits.push_back(atMost);
-        return m_waiter.untilReadable(descriptor, atMost);
-    }
-
-    std::vector<std::chrono::milliseconds> waits;
-
-private:
-    ThreadWaiter m_waiter;
-};
 
 class MountedFileSystemObjectTest : public ::testing::Test {
 protected:
@@ -44,16 +34,22 @@ protected:
         m_mount.folder.makeFile("MBX/7/qmLog.mdb", "0123456789");
         return m_files.openFile(unc("mbx\\7\\QMLOG.mdb"), mode);
     }
-    // The next call finds out that nobody answers, and whatever comes later knows.
+    // A call beyond the question whether the mount is there finds out that nobody answers.
     void hangAndNotice() {
         m_mount.hang();
-        EXPECT_FALSE(m_hasty.FolderExists(unc("MBX")));
+        m_waiter.patience = 1;
+        EXPECT_FALSE(m_files.FolderExists(unc("MBX")));
+        m_mount.awaitHangingCall();
+        m_waiter.patience = 100;
+    }
+    // Others have the lock as long as they have the file.
+    bool isLocked(const std::string& path) {
+        return !LocalFile::open(path, OpenMode::ReadWrite)->lock(100, 1, LockKind::Exclusive);
     }
 
     HangingMount m_mount;
-    ThreadWaiter m_waiter;
+    DirectedWaiter m_waiter;
     MountedFileSystemObject m_files{m_mount.resolver(), m_waiter};
-    MountedFileSystemObject m_hasty{m_mount.resolver(), m_waiter, {.few = 300ms, .many = 300ms}};
 };
 
 TEST_F(MountedFileSystemObjectTest, AnswersWhatTheMountedFolderHolds) {
@@ -74,6 +70,17 @@ TEST_F(MountedFileSystemObjectTest, FailsAsTheFolderDoes) {
     EXPECT_ERROR(basic::kPathNotFound, m_files.SubFolders(unc("missing")));
     EXPECT_ERROR(basic::kFileNotFound, m_files.DeleteFile(unc("*.wav"), false));
     EXPECT_ERROR(basic::kFileNotFound, m_files.openFile(unc("missing"), OpenMode::Read));
+}
+
+TEST_F(MountedFileSystemObjectTest, APathWhoseServerIsGoneCannotBeReached) {
+    const MountInfo broken = [table = m_mount.resolver().mountInfo(), here = std::this_thread::get_id()] {
+        if (std::this_thread::get_id() != here)
+            throw basic::errorFromErrno(EHOSTDOWN, "find", "the mount");
+        return table();
+    };
+    MountedFileSystemObject files(ShareResolver(nullptr, broken), m_waiter);
+    EXPECT_ERROR(basic::kPathNotFound, files.openFile(unc("a.wav"), OpenMode::Read));
+    EXPECT_ERROR(basic::kPathNotFound, files.SubFolders(unc("MBX")));
 }
 
 TEST_F(MountedFileSystemObjectTest, ReadsAFile) {
@@ -106,37 +113,92 @@ TEST_F(MountedFileSystemObjectTest, AFileIsClosedWhenItsObjectIsGone) {
 }
 
 TEST_F(MountedFileSystemObjectTest, FindsOutSoonThatNobodyAnswersBeforeItWaitsForNames) {
-    NotingWaiter waiter;
-    MountedFileSystemObject files(m_mount.resolver(), waiter);
-    files.FolderExists(unc("MBX"));
-    EXPECT_THAT(waiter.waits, ElementsAre(3s, 30s));
+    m_files.FolderExists(unc("MBX"));
+    EXPECT_THAT(m_waiter.waits, ElementsAre(3s, 30s));
+}
+
+// Thousands of messages take longer than any one deadline.
+TEST_F(MountedFileSystemObjectTest, GivesEachFileThatItDeletesItsOwnTime) {
+    m_mount.folder.makeFile("MBX/7/a.wav");
+    m_mount.folder.makeFile("MBX/7/b.wav");
+    m_files.DeleteFile(unc("MBX\\7\\*.wav"), true);
+    EXPECT_THAT(m_waiter.waits, ElementsAre(3s, 30s, 3s, 3s));
+}
+
+TEST_F(MountedFileSystemObjectTest, AFileThatCannotBeDeletedKeepsNoOther) {
+    m_mount.folder.makeFile("MBX/7/a.wav");
+    m_mount.folder.makeFile("MBX/7/b.wav");
+    std::filesystem::permissions(m_mount.folder.path("MBX/7/a.wav"), std::filesystem::perms::owner_read);
+    EXPECT_ERROR(basic::kPermissionDenied, m_files.DeleteFile(unc("MBX\\7\\*.wav"), false));
+    EXPECT_TRUE(std::filesystem::exists(m_mount.folder.path("MBX/7/a.wav")));
+    EXPECT_FALSE(std::filesystem::exists(m_mount.folder.path("MBX/7/b.wav")));
+}
+
+TEST_F(MountedFileSystemObjectTest, ReadsAndWritesPieceByPiece) {
+    const auto file = openDatabase(OpenMode::ReadWrite);
+    m_waiter.waits.clear();
+    std::vector<std::byte> bytes(150'000, std::byte{'a'});
+    bytes.back() = std::byte{'z'};
+    file->write(0, bytes);
+    std::vector<std::byte> read(200'000);
+    EXPECT_EQ(file->read(0, read), bytes.size());
+    read.resize(bytes.size());
+    EXPECT_EQ(read, bytes);
+    EXPECT_THAT(m_waiter.waits, SizeIs(3 + 3));
+    EXPECT_THAT(m_waiter.waits, Each(3s));
 }
 
 TEST_F(MountedFileSystemObjectTest, NothingIsThereWhileTheMountHangs) {
     m_mount.folder.makeFile("MBX/7/a.wav");
     hangAndNotice();
-    EXPECT_FALSE(m_hasty.FileExists(unc("MBX\\7\\a.wav")));
-    EXPECT_FALSE(m_hasty.FolderExists(unc("MBX")));
-    EXPECT_ERROR(basic::kPathNotFound, m_hasty.SubFolders(unc("MBX")));
-    EXPECT_ERROR(basic::kPathNotFound, m_hasty.DeleteFile(unc("MBX\\7\\*.wav"), true));
-    EXPECT_ERROR(basic::kPathNotFound, m_hasty.openFile(unc("MBX\\7\\a.wav"), OpenMode::Read));
+    EXPECT_FALSE(m_files.FileExists(unc("MBX\\7\\a.wav")));
+    EXPECT_FALSE(m_files.FolderExists(unc("MBX")));
+    EXPECT_ERROR(basic::kPathNotFound, m_files.SubFolders(unc("MBX")));
+    EXPECT_ERROR(basic::kPathNotFound, m_files.DeleteFile(unc("MBX\\7\\*.wav"), true));
+    EXPECT_ERROR(basic::kPathNotFound, m_files.openFile(unc("MBX\\7\\a.wav"), OpenMode::Read));
     EXPECT_EQ(m_mount.hangingCalls(), 1);
     m_mount.goOn();
     EXPECT_TRUE(std::filesystem::exists(m_mount.folder.path("MBX/7/a.wav")));
 }
 
 TEST_F(MountedFileSystemObjectTest, AFileWhoseCallHangsIsLostForGood) {
-    m_mount.folder.makeFile("MBX/7/qmLog.mdb", "0123456789");
-    const auto file = m_hasty.openFile(unc("MBX\\7\\qmLog.mdb"), OpenMode::ReadWrite);
+    const auto file = openDatabase(OpenMode::ReadWrite);
     m_mount.hang();
+    m_waiter.patience = 0;
     EXPECT_THROW(file->lock(100, 1, LockKind::Shared), ConnectionLost);
     m_mount.goOn();
+    EXPECT_EQ(m_waiter.awaitLast(), Waited::Ready);
+    m_waiter.patience = 100;
     EXPECT_THROW(file->size(), ConnectionLost);
+}
+
+TEST_F(MountedFileSystemObjectTest, AnotherFileIsThereAgainWhenTheMountAnswers) {
+    const auto file = openDatabase(OpenMode::Read);
+    hangAndNotice();
+    EXPECT_THROW(file->size(), ConnectionLost);
+    m_mount.goOn();
+    EXPECT_EQ(m_waiter.awaitLast(), Waited::Ready);
+    EXPECT_EQ(file->size(), 10U);
+}
+
+// Otherwise somebody else could begin to write before what hangs is written.
+TEST_F(MountedFileSystemObjectTest, ALockIsHeldUntilTheCallThatHangsReturns) {
+    const auto file = openDatabase(OpenMode::ReadWrite);
+    const std::string path = m_mount.folder.path("MBX/7/qmLog.mdb");
+    auto locked = m_files.openFile(file->name(), OpenMode::ReadWrite);
+    ASSERT_TRUE(locked->lock(100, 1, LockKind::Exclusive));
+    hangAndNotice();
+    EXPECT_THROW(locked->unlock(100, 1), ConnectionLost);
+    locked.reset();
+    EXPECT_TRUE(isLocked(path));
+    m_mount.goOn();
+    EXPECT_EQ(m_waiter.awaitLast(), Waited::Ready);
+    EXPECT_FALSE(isLocked(path));
 }
 
 TEST_F(MountedFileSystemObjectTest, WaitsForNoThreadOnADiskOfThisMachine) {
     m_mount.folder.makeFile("a.wav", "abc");
-    m_waiter.cancel();
+    m_waiter.isCancelled = true;
     EXPECT_FALSE(m_files.FileExists(unc("a.wav")));
     MountedFileSystemObject onDisk(
         ShareResolver([this](std::string_view) { return std::optional(m_mount.folder.path()); },

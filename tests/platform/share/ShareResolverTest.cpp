@@ -77,21 +77,26 @@ TEST(ShareResolver, WithoutMappingOrMountTheServerItselfAnswers) {
     EXPECT_THAT(route.components, ElementsAre("MBX", "7", "qmLog.mdb"));
 }
 
+std::string slowMountOf(const ShareResolver& resolver) {
+    const std::optional<SlowMount> mount = resolver.slowMountOf(resolver.resolve(kDatabase));
+    return mount ? mount->mountPoint : "none";
+}
+
 TEST(ShareResolver, KnowsTheMountThatAMappedFolderLiesOn) {
     const MountInfo mounts = mountsOf("22 1 8:1 / / rw - ext4 /dev/sda1 rw\n"
-                                      "41 22 0:40 / /mnt/nas rw - nfs4 nas:/q rw\n");
+                                      "41 22 0:40 / /mnt/nas rw - nfs4 nas:/q rw\n"
+                                      "42 22 0:41 / /data/part/MBX rw - nfs4 nas:/p rw\n");
     const auto mountOf = [&](const char* folder) {
-        const ShareResolver resolver(mappingOf("srv", folder), mounts);
-        return resolver.slowMountOf(resolver.resolve(kDatabase));
+        return slowMountOf(ShareResolver(mappingOf("srv", folder), mounts));
     };
     EXPECT_EQ(mountOf("/mnt/nas/log"), "/mnt/nas");
-    EXPECT_EQ(mountOf("/data/qm"), std::nullopt);
-    EXPECT_EQ(mountOf("smb://srv"), std::nullopt);
+    EXPECT_EQ(mountOf("/data/part"), "/data/part/MBX");
+    EXPECT_EQ(mountOf("/data/qm"), "none");
+    EXPECT_EQ(mountOf("smb://srv"), "none");
 }
 
 TEST(ShareResolver, WithoutATableNoMountIsKnown) {
-    const ShareResolver resolver(mappingOf("srv", "/mnt/nas"), {});
-    EXPECT_EQ(resolver.slowMountOf(resolver.resolve(kDatabase)), std::nullopt);
+    EXPECT_EQ(slowMountOf(ShareResolver(mappingOf("srv", "/mnt/nas"), {})), "none");
 }
 
 TEST(ShareResolver, ASettledOneKeepsWhatTheMappingSaid) {

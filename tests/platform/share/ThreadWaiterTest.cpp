@@ -43,6 +43,14 @@ TEST(ThreadWaiter, NoticesThatTheOtherEndIsGone) {
     EXPECT_FALSE(here.send(std::vector<std::byte>(1)));
 }
 
+TEST(ThreadWaiter, MayNotWaitOnceItIsCancelled) {
+    ThreadWaiter waiter;
+    EXPECT_TRUE(waiter.mayWait());
+    waiter.cancel();
+    EXPECT_FALSE(waiter.mayWait());
+    EXPECT_FALSE(waiter.mayWait());
+}
+
 TEST(ThreadWaiter, EndsAWaitThatRunsWhenItIsCancelled) {
     auto [here, there] = smb::PacketSocket::pair();
     ThreadWaiter waiter;
