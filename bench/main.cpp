@@ -6,6 +6,7 @@
 
 #include <benchmark/benchmark.h>
 
+#include <filesystem>
 #include <iostream>
 
 namespace {
@@ -36,7 +37,7 @@ int main(int argc, char** argv) {
         std::cerr << "Usage: qmbench [--benchmark_...] FOLDER\n";
         return 2;
     }
-    theFolder = argv[1];
+    theFolder = std::filesystem::absolute(argv[1]).string(); // a share is mapped to nothing else
     try {
         benchmark::RunSpecifiedBenchmarks();
     } catch (const std::exception& error) {
