@@ -29,8 +29,9 @@ private:
     std::string m_description;
 };
 
-// The platform's number for a POSIX errno value (ENOENT: 53, EACCES: 70, ENOSPC: 61, ENOMEM: 7, any other:
-// 75), with a description "<what>: <path>: <system's text>".
+// The platform's number for a POSIX errno value (ENOENT: 53, EBUSY: 55, EIO and what a network answers: 57,
+// ENOSPC: 61, EACCES: 70, ENOTDIR: 76, ENOMEM: 7, others: 75), with a description "<what>: <path>: <system's
+// text>".
 RuntimeError errorFromErrno(int errnoValue, std::string_view what, std::string_view path);
 
 } // namespace basic

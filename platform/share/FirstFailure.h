@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The qmClient authors
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
-// One that fails does not keep the others.
+// Work on many things of which some may fail, and the others are to be tried all the same.
 
 #include "platform/basic/RuntimeError.h"
 

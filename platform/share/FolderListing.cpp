@@ -19,7 +19,7 @@ struct CloseFolder {
     void operator()(DIR* stream) const noexcept { ::closedir(stream); }
 };
 
-// Calls visit(name) for each entry.
+// Calls visit(name, type) for each entry; the type is one of DT_DIR and its like.
 template <typename Visit>
 void forEachName(const std::string& folder, Visit&& visit) {
     const std::unique_ptr<DIR, CloseFolder> stream(::opendir(folder.c_str()));
@@ -32,7 +32,7 @@ void forEachName(const std::string& folder, Visit&& visit) {
         if (++count > FolderListing::kMaximumNames)
             throw basic::RuntimeError(basic::kPathFileAccess, "list: " + folder + ": too many names");
         if (name != "." && name != ".." && basic::isValidUtf8(name))
-            visit(name);
+            visit(name, entry->d_type);
         errno = 0;
     }
     if (errno != 0)
@@ -49,17 +49,31 @@ bool isFolder(const std::string& path) {
     return ::stat(path.c_str(), &status) == 0 && S_ISDIR(status.st_mode);
 }
 
+// Most file systems tell the type along with the name. To ask for each of thousands of files over a slow line
+// takes minutes.
+bool isFolder(const std::string& folder, std::string_view name, unsigned char type) {
+    if (type == DT_UNKNOWN || type == DT_LNK)
+        return isFolder(std::string(folder).append("/").append(name));
+    return type == DT_DIR;
+}
+
 } // namespace
 
-std::vector<std::string> FolderListing::names(const std::string& folder) {
+std::vector<std::string> FolderListing::folders(const std::string& folder) {
     std::vector<std::string> found;
-    forEachName(folder, [&found](std::string_view name) { found.emplace_back(name); });
+    forEachName(folder, [&](std::string_view name, unsigned char type) {
+        if (isFolder(folder, name, type))
+            found.emplace_back(name);
+    });
     return found;
 }
 
-std::vector<std::string> FolderListing::folders(const std::string& folder) {
-    std::vector<std::string> found = names(folder);
-    std::erase_if(found, [&folder](const std::string& name) { return !isFolder(folder + "/" + name); });
+std::vector<std::string> FolderListing::files(const std::string& folder, const NamePattern& pattern) {
+    std::vector<std::string> found;
+    forEachName(folder, [&](std::string_view name, unsigned char type) {
+        if (pattern.matches(name) && !isFolder(folder, name, type))
+            found.emplace_back(name);
+    });
     return found;
 }
 
@@ -68,7 +82,7 @@ std::optional<std::string> FolderListing::find(const std::string& folder, const 
     if (exists(exact))
         return exact;
     std::optional<std::string> best;
-    forEachName(folder, [&](std::string_view candidate) {
+    forEachName(folder, [&](std::string_view candidate, unsigned char) {
         if (basic::equalText(candidate, name) && (!best || candidate < *best))
             best = candidate;
     });

@@ -4,6 +4,8 @@
 // The names in one folder of this machine, as it was at one moment. Symbolic links count as what they lead
 // to: a folder that stands for a share is arranged by its administrator.
 
+#include "platform/share/NamePattern.h"
+
 #include <optional>
 #include <string>
 #include <string_view>
@@ -18,8 +20,9 @@ public:
 
     // Names in the order of the file system, without "." and ".."; those that are not valid UTF-8 are left
     // out. Throws when the folder cannot be read.
-    static std::vector<std::string> names(const std::string& folder);
     static std::vector<std::string> folders(const std::string& folder);
+    // Of everything that is no folder.
+    static std::vector<std::string> files(const std::string& folder, const NamePattern& pattern);
 
     // The path of `name` in `folder`: exactly so spelt, else the first one in order that differs in case
     // only. Nothing when there is none.

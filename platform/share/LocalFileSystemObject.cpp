@@ -6,7 +6,6 @@
 #include "platform/share/FirstFailure.h"
 #include "platform/share/FolderListing.h"
 #include "platform/share/LocalFile.h"
-#include "platform/share/NamePattern.h"
 
 #include <fcntl.h>
 #include <sys/stat.h>
@@ -52,12 +51,7 @@ std::vector<std::string> matching(const std::string& folder, const std::string& 
             return {};
         return {found->substr(folder.size() + 1)};
     }
-    const NamePattern names(pattern);
-    std::vector<std::string> found = FolderListing::names(folder);
-    std::erase_if(found, [&](const std::string& name) {
-        return !names.matches(name) || isFolder(folder + "/" + name);
-    });
-    return found;
+    return FolderListing::files(folder, NamePattern(pattern));
 }
 
 } // namespace

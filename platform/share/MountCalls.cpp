@@ -78,36 +78,37 @@ void MountCalls::reach(const SlowMount& mount) {
 
 void MountCalls::letGo(const SlowMount& mount, std::shared_ptr<void> resource) noexcept {
     try {
-        const auto leftBehind = m_leftBehind.find(mount.id);
-        if (leftBehind != m_leftBehind.end() && leftBehind->second->take(resource))
+        const auto underWay = m_underWay.find(mount.id);
+        if (underWay != m_underWay.end() && underWay->second->take(resource))
             return;
-        const auto giveUp = [resource = std::move(resource)]() mutable { resource.reset(); };
-        isOver(mount, Requests::Many, Call::begin(giveUp));
+        returnsInTime(mount, Requests::Many,
+                      Call::begin([resource = std::move(resource)]() mutable { resource.reset(); }));
     } catch (const std::exception&) { // no thread: it was given up right here
     }
 }
 
 bool MountCalls::mayBegin(const SlowMount& mount) {
-    const auto leftBehind = m_leftBehind.find(mount.id);
-    if (leftBehind != m_leftBehind.end() && leftBehind->second->isOver())
-        m_leftBehind.erase(leftBehind);
-    return m_waiter.mayWait() && !m_leftBehind.contains(mount.id);
+    const auto underWay = m_underWay.find(mount.id);
+    if (underWay != m_underWay.end() && underWay->second->isOver())
+        m_underWay.erase(underWay);
+    return m_waiter.mayWait() && !m_underWay.contains(mount.id);
 }
 
 void MountCalls::carryOut(const SlowMount& mount, Requests requests, std::function<void()> work) {
     const std::string silence = "the mounted folder " + mount.mountPoint + " does not answer";
     if (!mayBegin(mount))
         throw basic::RuntimeError(basic::kPathNotFound, silence);
-    if (!isOver(mount, requests, Call::begin(std::move(work))))
+    if (!returnsInTime(mount, requests, Call::begin(std::move(work))))
         throw CallLeftBehind(silence);
 }
 
-bool MountCalls::isOver(const SlowMount& mount, Requests requests, const std::shared_ptr<Call>& call) {
+bool MountCalls::returnsInTime(const SlowMount& mount, Requests requests, const std::shared_ptr<Call>& call) {
+    m_underWay[mount.id] = call;
     const auto atMost = requests == Requests::Many ? m_deadlines.many : m_deadlines.few;
-    if (m_waiter.mayWait() && m_waiter.untilReadable(call->returned(), atMost) == Waited::Ready)
-        return true;
-    m_leftBehind[mount.id] = call;
-    return false;
+    if (!m_waiter.mayWait() || m_waiter.untilReadable(call->returned(), atMost) != Waited::Ready)
+        return false;
+    m_underWay.erase(mount.id);
+    return true;
 }
 
 } // namespace share

@@ -57,8 +57,8 @@ public:
         carryOut(mount, requests, [task = std::move(task)] { (*task)(); });
         return result.get();
     }
-    // Gives up what lies on the mount: after the call that was left behind there, if there is one, and in the
-    // order of the calls of this.
+    // Gives up what lies on the mount, on another thread: after the call that is under way there, if there is
+    // one, and in the order of the calls of this.
     void letGo(const SlowMount& mount, std::shared_ptr<void> resource) noexcept;
 
 private:
@@ -66,11 +66,11 @@ private:
 
     bool mayBegin(const SlowMount& mount);
     void carryOut(const SlowMount& mount, Requests requests, std::function<void()> work);
-    bool isOver(const SlowMount& mount, Requests requests, const std::shared_ptr<Call>& call);
+    bool returnsInTime(const SlowMount& mount, Requests requests, const std::shared_ptr<Call>& call);
 
     Waiter& m_waiter;
     const MountDeadlines m_deadlines;
-    std::map<std::string, std::shared_ptr<Call>> m_leftBehind; // by mount
+    std::map<std::string, std::shared_ptr<Call>> m_underWay; // by mount; also those that were left behind
 };
 
 } // namespace share

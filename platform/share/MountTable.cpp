@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "platform/share/MountTable.h"
 
+#include "platform/basic/TextCompare.h"
+
 #include <sys/sysmacros.h>
 
 #include <algorithm>
@@ -171,13 +173,16 @@ MountTable::MountTable(std::string_view mountInfo) {
 }
 
 std::optional<SlowMount> MountTable::slowMountOf(std::string_view path) const {
-    const std::string normal = withoutDetours(path);
+    const std::string folded = basic::foldCase(withoutDetours(path));
     const Mount* best = nullptr;
+    std::size_t length = 0;
     for (const Mount& candidate : m_mounts) {
-        const std::string& point = candidate.mount.mountPoint;
+        const std::string point = basic::foldCase(candidate.mount.mountPoint);
         // Of two at the same place the later one hides the earlier one.
-        if (liesIn(point, normal) && (best == nullptr || point.size() >= best->mount.mountPoint.size()))
-            best = &candidate;
+        if (!liesIn(point, folded) || point.size() < length)
+            continue;
+        best = &candidate;
+        length = point.size();
     }
     return best != nullptr && best->isSlow ? std::optional(best->mount) : std::nullopt;
 }

@@ -39,8 +39,8 @@ public:
     // In the order of mounting.
     const std::vector<ShareMount>& shares() const noexcept { return m_shares; }
 
-    // The one that `path` lies on; nothing for the disks of this machine. `path` is absolute; symbolic links
-    // in it are not followed.
+    // The one that `path` lies on; nothing for the disks of this machine. `path` is absolute and compared
+    // without case, as names below a mapped folder are; symbolic links in it are not followed.
     std::optional<SlowMount> slowMountOf(std::string_view path) const;
 
     // False for the files of a mount whose locks hold among the programs of this machine only, and of one

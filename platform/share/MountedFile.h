@@ -2,8 +2,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 // A file on a mount that a server or a program answers for: a LocalFile whose every call is made by way of
-// MountCalls. Reads and writes take their time piece by piece. A failure of the connection to the server is
-// ConnectionLost; a file whose call was left behind stays lost. The calls must outlive it.
+// MountCalls. Each piece of a read or write has a deadline of its own. A failure of the connection to the
+// server is ConnectionLost; a file whose call was left behind stays lost. The calls must outlive it.
 
 #include "platform/share/File.h"
 #include "platform/share/MountCalls.h"

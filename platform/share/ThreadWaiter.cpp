@@ -19,7 +19,7 @@ ThreadWaiter::ThreadWaiter() : m_cancelled(::eventfd(0, EFD_CLOEXEC | EFD_NONBLO
 
 bool ThreadWaiter::mayWait() const {
     pollfd cancelled{m_cancelled.get(), POLLIN, 0};
-    return ::poll(&cancelled, 1, 0) == 0;
+    return ::poll(&cancelled, 1, 0) <= 0; // a signal that comes in between says nothing
 }
 
 Waited ThreadWaiter::untilReadable(int descriptor, std::chrono::milliseconds atMost) {

@@ -128,9 +128,30 @@ TEST_F(MountCallsTest, BeginsNothingInsideOfAnotherCallsWait) {
 }
 
 TEST_F(MountCallsTest, GivesUpWhatLiesOnTheMountBeforeItReturns) {
-    bool isGivenUp = false;
-    m_calls.letGo(kMount, resource([&] { isGivenUp = true; }));
-    EXPECT_TRUE(isGivenUp);
+    std::thread::id thread;
+    m_calls.letGo(kMount, resource([&] { thread = std::this_thread::get_id(); }));
+    EXPECT_NE(thread, std::thread::id());
+    EXPECT_NE(thread, std::this_thread::get_id());
+}
+
+TEST_F(MountCallsTest, GivingUpMayHangAsWell) {
+    m_waiter.patience = 0;
+    m_calls.letGo(kMount, resource([gate = m_gate] { gate->wait(); }));
+    m_waiter.patience = 100;
+    expectNotBegun(kMount);
+}
+
+TEST_F(MountCallsTest, WhatIsGivenUpInsideOfACallsWaitFollowsTheCall) {
+    const auto order = std::make_shared<std::string>();
+    m_waiter.meanwhile = [&] {
+        m_calls.letGo(kMount, resource([order] { *order += " resource"; }));
+        goOn();
+    };
+    m_calls.run<void>(kMount, kMany, [order, gate = m_gate] {
+        gate->wait();
+        *order += "call";
+    });
+    EXPECT_EQ(*order, "call resource");
 }
 
 // A lock outlives the write that it protects.

@@ -106,6 +106,7 @@ TEST(MountTable, SeesThroughDetours) {
     const std::string table = "22 1 8:1 / / rw - ext4 /dev/sda1 rw\n41 22 0:40 / /mnt/q rw - nfs s:/ rw\n";
     for (const char* path : {"//mnt/q", "/mnt//q/", "/mnt/./q", "/srv/../mnt/q", "/../mnt/q/MBX/.."})
         EXPECT_EQ(slowMount(table, path), "41 /mnt/q") << path;
+    EXPECT_EQ(slowMount(table, "/MNT/Q"), "41 /mnt/q");
     EXPECT_EQ(slowMount(table, "/mnt/q/.."), "none");
 }
 
